@@ -37,7 +37,7 @@
     </message>
     <message>
         <source> Mulit View</source>
-        <translation> Více pohledů</translation>
+        <translation> Vícepohledový výkres</translation>
     </message>
     <message>
         <source> Right</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Please Login to 3DPH to Download.</source>
-        <translation>Chcete-li stahovat, přihlaste se k 3DPH.</translation>
+        <translation>Před stažením se přihlaste do 3DPH.</translation>
     </message>
     <message>
         <source>Please enter Search string</source>

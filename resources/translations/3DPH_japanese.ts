@@ -17,11 +17,11 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> 詳細図</translation>
+        <translation> 詳細図面</translation>
     </message>
     <message>
         <source> Dimetric</source>
-        <translation> 二等角図</translation>
+        <translation> 二等角投影図</translation>
     </message>
     <message>
         <source> Front</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source> Isometric</source>
-        <translation> 等角図</translation>
+        <translation> 等角投影図</translation>
     </message>
     <message>
         <source> Left</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source> Trimetric</source>
-        <translation> 不等角図</translation>
+        <translation> 不等角投影図</translation>
     </message>
     <message>
         <source>3D PARTHARBOR</source>

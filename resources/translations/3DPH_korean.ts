@@ -5,7 +5,7 @@
     <name>PartHarbor_2D</name>
     <message>
         <source> 4 View</source>
-        <translation> 4개 뷰</translation>
+        <translation> 4면도</translation>
     </message>
     <message>
         <source> Back</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> 상세도</translation>
+        <translation> 상세 도면</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Server was unable to process request. Invalid key string.</source>
-        <translation>서버에서 요청을 처리할 수 없습니다. 키가 올바르지 않습니다.</translation>
+        <translation>서버에서 요청을 처리하지 못했습니다. 키가 올바르지 않습니다.</translation>
     </message>
 </context>
 </TS>
