@@ -2,6 +2,8 @@
 
 #include "devcatalog/parts/Part.h"
 
+#include <QString>
+
 #include <string_view>
 #include <vector>
 
@@ -16,7 +18,8 @@ public:
 
     const std::vector<Part>& parts() const { return m_parts; }
 
-    /// @param term UTF-8 words; a part matches when each of them occurs in its name, supplier or description, in any
+    /// @param term UTF-8 words; a part matches when each of them occurs in its name, supplier or description,
+    /// in any
     ///        order and letter case.
     /// @return the matching parts in catalog order, owned by the catalog; none for a term without words.
     std::vector<const Part*> search(std::string_view term) const;
@@ -26,6 +29,8 @@ public:
 
 private:
     std::vector<Part> m_parts;
+    std::vector<QString>
+        m_searchTexts; ///< Of each part: name, supplier and description, folded for comparison.
 };
 
 } // namespace devcatalog
