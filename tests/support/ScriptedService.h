@@ -1,0 +1,88 @@
+#pragma once
+
+#include "tests/support/RecordedRequest.h"
+#include "tests/support/ScriptedReply.h"
+#include "tests/support/TestCertificates.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QQueue>
+#include <QVector>
+
+#include <memory>
+
+class QTcpServer;
+
+namespace test
+{
+
+class ScriptedConnection;
+
+/**
+ * An HTTPS service on a free port of the loopback that answers as the test says and records every request.
+ * It works in the thread that made it, by its event loop: nothing is answered while that thread does not
+ * turn.
+ *
+ * A script key is an operation name (what follows the last slash of the SOAPAction) or, with a leading slash,
+ * a path. A request takes the next reply queued for its operation, else for its path, else the standing one
+ * of its operation, else of its path; what nobody scripted gets status 404.
+ */
+class ScriptedService : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptedService(const ServerIdentity& identity, QObject* parent = nullptr);
+    ~ScriptedService() override;
+
+    quint16 port() const;
+
+    /// The answer whenever nothing is queued.
+    void setReply(const QString& key, const ScriptedReply& reply);
+    /// The answer to one request, in the order of the calls.
+    void enqueue(const QString& key, const ScriptedReply& reply);
+
+    /// Complete requests, oldest first.
+    const QVector<RecordedRequest>& requests() const { return m_requests; }
+    /// Those of one operation or path.
+    QVector<RecordedRequest> requests(const QString& key) const;
+
+    /// How many held replies wait.
+    int heldCount() const { return m_held.size(); }
+    /// Sends what was held of the reply to that request, counted as in requests().
+    void release(int request);
+    void releaseAll();
+
+    /// Connections accepted, whatever became of their handshake.
+    int connectionCount() const { return m_connectionCount; }
+    /// Bytes that arrived inside TLS, parts of requests included.
+    qint64 byteCount() const { return m_byteCount; }
+
+signals:
+    void requestArrived(const test::RecordedRequest& request);
+
+private:
+    class TlsServer;
+    struct Held {
+        int request;
+        QPointer<ScriptedConnection> connection;
+        ScriptedReply reply;
+    };
+
+    void addConnection(qintptr descriptor);
+    void answer(ScriptedConnection* connection, const RecordedRequest& request);
+    ScriptedReply replyFor(const RecordedRequest& request);
+    static void sendHeld(const Held& held);
+
+    ServerIdentity m_identity;
+    std::unique_ptr<QTcpServer> m_server;
+    QHash<QString, ScriptedReply> m_standing;
+    QHash<QString, QQueue<ScriptedReply>> m_queued;
+    QVector<RecordedRequest> m_requests;
+    QVector<Held> m_held;
+    int m_connectionCount = 0;
+    qint64 m_byteCount = 0;
+};
+
+} // namespace test
