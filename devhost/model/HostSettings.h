@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace devhost
+{
+
+/// What the host reports about its user interface and its help.
+struct HostSettings {
+    int language = 2; ///< pvLanguage_e value; 2 is English.
+    bool darkTheme = false;
+    bool webHelp = false;
+    QString webLink = "https://help.plotvane.example/"; ///< Base address of the web help.
+    QString helpFile = "Help/Plotvane.chm";             ///< Path of the compiled help file.
+};
+
+} // namespace devhost

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "devhost/model/HostView.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace test
+{
+
+/// The user interface of a host in a test: panes are plain native widgets, prompts answer as told.
+class ScriptedHostView final : public devhost::HostView
+{
+public:
+    /// Refuses panes from now on.
+    void refusePanes() { m_refusesPanes = true; }
+    /// Has panes report that handle instead of their widget's.
+    void reportHandle(quintptr handle) { m_reportedHandle = handle; }
+    /// Answers every prompt from now on; the script may do what a user could do meanwhile. Without one
+    /// prompts are cancelled.
+    void answerPrompts(std::function<devhost::BlockPromptAnswer(const devhost::BlockPrompt&)> script)
+    {
+        m_promptScript = std::move(script);
+    }
+    /// Answers every prompt from now on by placing the block at that point, as preset otherwise.
+    void acceptPromptsAt(double x, double y);
+    /// What reading that file gives, instead of an empty block for a file that exists and nothing for others.
+    void setBlock(const QString& file, std::optional<devhost::BlockGeometry> geometry)
+    {
+        m_blocks.insert(file, std::move(geometry));
+    }
+
+    /// @return the widget of the newest pane; null when there is none, or it is gone.
+    QWidget* paneWidget() const { return m_paneWidget; }
+    /// @return the prompts so far, and what each file held at that moment.
+    const std::vector<devhost::BlockPrompt>& prompts() const { return m_prompts; }
+    const std::vector<QByteArray>& promptedContents() const { return m_promptedContents; }
+    /// @return the help opened so far: an address, or "file#topic".
+    const QStringList& openedHelp() const { return m_openedHelp; }
+    int cancelledPrompts() const { return m_cancelledPrompts; }
+
+    // devhost::HostView
+    std::unique_ptr<devhost::PaneView> createPane(const QString& title) override;
+    devhost::BlockPromptAnswer promptForBlock(const devhost::BlockPrompt& prompt) override;
+    void cancelPrompt() override { ++m_cancelledPrompts; }
+    std::optional<devhost::BlockGeometry> readBlock(const QString& file) override;
+    bool openWebHelp(const QString& address) override;
+    bool openHelpFile(const QString& file, long topic) override;
+
+private:
+    bool m_refusesPanes = false;
+    std::optional<quintptr> m_reportedHandle;
+    std::function<devhost::BlockPromptAnswer(const devhost::BlockPrompt&)> m_promptScript;
+    QHash<QString, std::optional<devhost::BlockGeometry>> m_blocks;
+    QPointer<QWidget> m_paneWidget;
+    std::vector<devhost::BlockPrompt> m_prompts;
+    std::vector<QByteArray> m_promptedContents;
+    QStringList m_openedHelp;
+    int m_cancelledPrompts = 0;
+};
+
+} // namespace test
