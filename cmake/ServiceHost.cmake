@@ -1,3 +1,4 @@
+# The catalog service the library is built for, and what of the library depends on it.
 # The catalog service and the service account that the library is built for.
 set(PARTHARBOR_SERVICE_HOST "localhost:8443" CACHE STRING "Host (and port) of the catalog service and its web site")
 set(PARTHARBOR_SERVICE_CATALOG "partharbor" CACHE STRING "ServiceLogin: catalog")
@@ -6,3 +7,60 @@ set(PARTHARBOR_SERVICE_PASSWORD "TulipWindowCanvas" CACHE STRING "ServiceLogin: 
 set(PARTHARBOR_SERVICE_ENDUSER "Plotvane" CACHE STRING "ServiceLogin: end user")
 # The development tests run against services on free ports, reached under this name through a proxy of their own.
 set(DOCKWIDGET_TEST_SERVICE_HOST "catalog.test:8443")
+
+# dockwidget_add_service_host(target host): what depends on the service host, as an object library: the
+# addresses and the resource bundle with its request templates. Everything else is compiled once for all hosts.
+function(dockwidget_add_service_host target host)
+  set(staging ${CMAKE_BINARY_DIR}/resources/${target})
+  dockwidget_request_templates(${staging} ${host} templates)
+  dockwidget_resource_bundle(${staging} "${templates}" bundle)
+  add_library(${target} OBJECT ${CMAKE_SOURCE_DIR}/service/ServiceAddress.cpp ${bundle})
+  target_compile_definitions(${target} PRIVATE PARTHARBOR_SERVICE_HOST="${host}")
+  target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
+  target_link_libraries(${target} PRIVATE Qt5::Core)
+  add_dependencies(${target} dockwidget_translations)
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
+  dockwidget_warnings(${target})
+endfunction()
+
+# Fills the request templates for a host: CR LF line ends and none after the last line.
+function(dockwidget_request_templates folder host result)
+  set(PARTHARBOR_SERVICE_HOST ${host})
+  foreach(value HOST CATALOG USER PASSWORD ENDUSER)
+    string(REPLACE "&" "&amp;" PARTHARBOR_SERVICE_${value} "${PARTHARBOR_SERVICE_${value}}")
+    string(REPLACE "<" "&lt;" PARTHARBOR_SERVICE_${value} "${PARTHARBOR_SERVICE_${value}}")
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/templates/*.xml.in)
+  set(files)
+  foreach(source ${sources})
+    set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+    get_filename_component(name ${source} NAME_WLE)
+    file(READ ${source} text)
+    string(CONFIGURE "${text}" text @ONLY)
+    string(REGEX REPLACE "\n$" "" text "${text}")
+    if(NOT CMAKE_HOST_WIN32) # file() writes CR LF by itself there
+      string(REPLACE "\n" "\r\n" text "${text}")
+    endif()
+    file(WRITE ${folder}/${name}.new "${text}")
+    file(COPY_FILE ${folder}/${name}.new ${folder}/${name} ONLY_IF_DIFFERENT)
+    file(REMOVE ${folder}/${name}.new)
+    list(APPEND files ${folder}/${name})
+  endforeach()
+  set(${result} ${files} PARENT_SCOPE)
+endfunction()
+
+# Lays the bundle out in a folder as 3DPH.qrc names it and compiles it, uncompressed.
+function(dockwidget_resource_bundle folder templates result)
+  set(resources ${CMAKE_SOURCE_DIR}/resources)
+  file(GLOB_RECURSE artwork CONFIGURE_DEPENDS ${resources}/Resource/*)
+  get_target_property(rcc Qt5::rcc IMPORTED_LOCATION)
+  add_custom_command(
+    OUTPUT ${folder}/qrc_3DPH.cpp
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${resources}/Resource ${folder}/Resource
+    COMMAND ${CMAKE_COMMAND} -E copy ${resources}/3DPH.qrc ${resources}/output.xml ${DOCKWIDGET_QM_FILES} ${folder}
+    COMMAND ${rcc} --no-compress --name DockWidget_3DPH --output ${folder}/qrc_3DPH.cpp ${folder}/3DPH.qrc
+    DEPENDS ${resources}/3DPH.qrc ${resources}/output.xml ${artwork} ${templates} ${DOCKWIDGET_QM_FILES}
+    VERBATIM)
+  set(${result} ${folder}/qrc_3DPH.cpp PARENT_SCOPE)
+endfunction()
