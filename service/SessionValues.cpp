@@ -1,0 +1,6 @@
+#include "service/SessionValues.h"
+
+QString ApiKey;
+QString UserToken;
+QString SearchTerm;
+QString CurrentPageNumber = QLatin1String("1");

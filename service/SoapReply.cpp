@@ -1,0 +1,30 @@
+#include "service/SoapReply.h"
+
+#include "common/MessageBoxes.h"
+#include "service/ReplyRelease.h"
+#include "service/XmlGuard.h"
+
+#include <QFile>
+#include <QNetworkReply>
+
+SoapReply::SoapReply(QNetworkReply* reply)
+    : m_text(QString::fromUtf8(reply->readAll())), m_document(QLatin1String("output"))
+{
+    releaseReply(reply);
+}
+
+bool SoapReply::open()
+{
+    QFile gate(QLatin1String(":/3DPH/output.xml"));
+    if (!gate.open(QIODevice::ReadOnly)) {
+        showCannotOpenBox(gate.fileName());
+        return false;
+    }
+    parseXml(m_text, &m_document);
+    return true;
+}
+
+QString SoapReply::result(const char* element) const
+{
+    return m_document.elementsByTagName(QLatin1String(element)).item(0).firstChild().nodeValue();
+}

@@ -1,0 +1,61 @@
+#include "service/SoapRequest.h"
+
+#include "common/MessageBoxes.h"
+#include "service/ServiceAddress.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QUrl>
+
+namespace
+{
+
+QNetworkRequest soapHeaders(const ServiceOperation& operation)
+{
+    QNetworkRequest request(QUrl(operation.endpoint, QUrl::TolerantMode));
+    request.setRawHeader("Content-Type", "text/xml; charset=utf-8");
+    // Not a number, so the network layer puts the body's true byte count on the wire.
+    request.setRawHeader("Content-Length", "length");
+    request.setRawHeader("SOAPAction", (ServiceNamespace + QLatin1Char('/') + operation.name).toUtf8());
+    return request;
+}
+
+void fill(const QDomDocument& document, std::initializer_list<SoapValue> values)
+{
+    for (const SoapValue& value : values)
+        document.elementsByTagName(QLatin1String(value.element))
+            .item(0)
+            .firstChild()
+            .setNodeValue(value.text);
+}
+
+} // namespace
+
+QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializer_list<SoapValue> values,
+                               QObject* asker, const char* replySlot)
+{
+    const QNetworkRequest request = soapHeaders(operation);
+
+    QFile file(QLatin1String(":/3DPH/") + operation.templateName);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        showCannotOpenBox(file.fileName());
+        return nullptr;
+    }
+    QDomDocument document(QLatin1String(operation.documentName));
+    document.setContent(file.readAll());
+    file.close();
+    fill(document, values);
+    if (document.isNull())
+        return nullptr;
+
+    // No parent: it must outlive the asker's own children while a reply is being delivered. Asker and manager
+    // still go together, by the toolkit's code alone, which is there after the add-in has been unloaded.
+    auto* manager = new QNetworkAccessManager;
+    QNetworkReply* reply = manager->post(request, document.toByteArray(1));
+    QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, replySlot);
+    QObject::connect(asker, SIGNAL(destroyed()), manager, SLOT(deleteLater()));
+    return reply;
+}

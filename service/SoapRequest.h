@@ -1,0 +1,29 @@
+#pragma once
+
+#include "service/ServiceOperations.h"
+
+#include <QString>
+
+#include <initializer_list>
+
+class QNetworkReply;
+class QObject;
+
+/// A value that a request fills into its template: the first element of that name gets the text.
+struct SoapValue {
+    const char* element;
+    QString text;
+};
+
+/// Fills an operation's template and posts it.
+///
+/// The reply comes through the event loop, however the request ends. Its slot makes a SoapReply of it, which
+/// releases reply and network manager; if the asker is destroyed before that, both go with it.
+/// @param operation what to send.
+/// @param values the elements to fill, in order.
+/// @param asker receives the reply; not owned.
+/// @param replySlot SLOT() of the asker that takes a QNetworkReply*.
+/// @return the reply under way, owned by its network manager; null when nothing was sent: then the template
+///         could not be opened and an error box has said so, during which the asker may have gone.
+QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializer_list<SoapValue> values,
+                               QObject* asker, const char* replySlot);

@@ -1,0 +1,142 @@
+#include "service/XMLParser.h"
+
+#include "common/MessageBoxes.h"
+#include "service/ServiceAddress.h"
+#include "service/ServiceOperations.h"
+#include "service/XmlGuard.h"
+
+#include <QDebug>
+#include <QMessageBox>
+
+namespace
+{
+
+// The fields of a hit have a place, not a name.
+constexpr int NameField = 0;
+constexpr int DescriptionField = 6;
+constexpr int ImageField = 7;
+constexpr int SupplierField = 16;
+
+QString childText(const QDomNode& element, int position)
+{
+    return element.childNodes().item(position).firstChild().nodeValue();
+}
+
+QString withoutLeadingBlank(const QString& text)
+{
+    return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
+}
+
+} // namespace
+
+XMLParser::XMLParser(const QString& fileName)
+    : m_fileName(fileName), m_file(std::make_unique<QFile>(fileName))
+{
+    if (m_file->open(QIODevice::ReadOnly | QIODevice::Text)) {
+        setContent(QString::fromUtf8(m_file->readAll()));
+        m_file->close();
+        return;
+    }
+    const QString text = QObject::tr("Cannot open xml file: %1").arg(fileName);
+    QMessageBox::critical(nullptr, QLatin1String("Error"), text, QMessageBox::Ok);
+    showInformationBox(text);
+}
+
+void XMLParser::setContent(const QString& xml)
+{
+    QDomDocument document(QLatin1String("mydocument"));
+    if (parseXml(xml, &document))
+        m_document = document;
+}
+
+int XMLParser::GetActualItemCount() const
+{
+    return m_document.elementsByTagName(QLatin1String("ActualItemCount"))
+        .item(0)
+        .firstChild()
+        .nodeValue()
+        .toInt();
+}
+
+QStringList XMLParser::GetSearchItemNames() const
+{
+    QStringList names = childTexts(SearchOperation.resultElement, NameField);
+    for (QString& name : names)
+        name = withoutLeadingBlank(name);
+    return names;
+}
+
+QStringList XMLParser::GetSearchItemField1() const
+{
+    return childTexts(SearchOperation.resultElement, 1);
+}
+
+QStringList XMLParser::GetSearchItemField6() const
+{
+    return childTexts(SearchOperation.resultElement, DescriptionField);
+}
+
+QStringList XMLParser::GetSearchItemImageUrls() const
+{
+    QStringList urls = childTexts(SearchOperation.resultElement, ImageField);
+    for (QString& url : urls)
+        url.prepend(ServiceBaseUrl);
+    return urls;
+}
+
+QStringList XMLParser::GetSearchItemField16() const
+{
+    return childTexts(SearchOperation.resultElement, SupplierField);
+}
+
+QStringList XMLParser::GetConfigurationNames() const
+{
+    return childTexts(GetConfigInfoOperation.resultElement, 0);
+}
+
+SearchResults XMLParser::GetSearchResults(int limit) const
+{
+    SearchResults results;
+    const QDomNodeList items = m_document.elementsByTagName(QLatin1String(SearchOperation.resultElement));
+    const int count = qMin(limit, items.count());
+    for (int i = 0; i < count; ++i) {
+        const QDomNode item = items.item(i);
+        results.imageUrls.append(ServiceBaseUrl + childText(item, ImageField));
+        results.supplierNames.append(childText(item, SupplierField));
+        results.modelNames.append(withoutLeadingBlank(childText(item, NameField)));
+        results.descriptions.append(childText(item, DescriptionField));
+    }
+    return results;
+}
+
+void XMLParser::test()
+{
+    QDomDocument document(QLatin1String("mydocument"));
+    document.setContent(QString::fromLatin1("<root><a>11111</a><a><b>test 123</b></a></root>"));
+    const QDomElement root = document.documentElement();
+    qDebug("root element has %d childs", root.childNodes().count());
+    qDebug("root element is  %s ", qUtf8Printable(root.tagName()));
+    for (QDomElement a = root.firstChildElement(QLatin1String("a")); !a.isNull();
+         a = a.nextSiblingElement(QLatin1String("a")))
+        qDebug("- [%s]", qUtf8Printable(a.text()));
+}
+
+void XMLParser::create(const QString& fileName, XMLParser** parser)
+{
+    if (!fileName.isEmpty())
+        *parser = new XMLParser(fileName);
+}
+
+QDomDocument XMLParser::documentOf(const XMLParser* parser)
+{
+    return parser != nullptr ? parser->m_document.cloneNode().toDocument() : QDomDocument();
+}
+
+QStringList XMLParser::childTexts(const char* element, int position) const
+{
+    QStringList texts;
+    const QDomNodeList elements = m_document.elementsByTagName(QLatin1String(element));
+    for (int i = 0; i < elements.count(); ++i)
+        texts.append(childText(elements.item(i), position));
+    return texts;
+}
