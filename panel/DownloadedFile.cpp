@@ -1,0 +1,40 @@
+#include "panel/DownloadedFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+int g_downloadCounter = 0;
+
+DownloadedFile::DownloadedFile(const QString& name) : m_file(QDir::current().absoluteFilePath(name))
+{
+    m_file.open(QIODevice::ReadWrite);
+}
+
+DownloadedFile::~DownloadedFile()
+{
+    if (m_file.isOpen())
+        m_file.remove(); // closes it first
+}
+
+QString DownloadedFile::name() const
+{
+    return QFileInfo(m_file).fileName();
+}
+
+QString fileNameOf(const QString& address)
+{
+    const QString path = QUrl(address).path();
+    int start = path.size();
+    while (start > 0 && !QLatin1String("/\\:").contains(path[start - 1]))
+        --start;
+    const QString name = path.mid(start);
+    return name.isEmpty() ? QString(QLatin1String("index.html")) : name;
+}
+
+QString numberedFileName(const QString& fileName, int counter)
+{
+    QString name = fileName;
+    name.remove(QLatin1String(".dwg"));
+    return name + QString::number(counter) + QLatin1String(".dwg");
+}

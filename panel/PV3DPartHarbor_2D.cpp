@@ -1,0 +1,121 @@
+#include "panel/PV3DPartHarbor_2D.h"
+
+#include "common/MessageBoxes.h"
+#include "panel/PartHarbor_2D.h"
+#include "panel/QtCategoryButton.h"
+#include "panel/SectionTree.h"
+#include "service/SessionValues.h"
+#include "ui_PV3DPartHarbor_2D.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QPushButton>
+
+PV3DPartHarbor_2D::PV3DPartHarbor_2D(pvApplication_c* application, QWidget* parent)
+    : QWidget(parent),
+      m_application(application),
+      m_form(std::make_unique<Ui::PartHarbor_2DMain>()),
+      m_sectionItems(std::make_unique<QList<QTreeWidgetItem*>>())
+{
+    m_form->setupUi(this);
+    buildPanel();
+    m_sectionButtons = new QButtonGroup(this);
+    m_sectionButtons->addButton(m_searchHeader, 0);
+    m_sectionItems->append(m_searchItem);
+
+    connect(m_sectionButtons, SIGNAL(buttonClicked(int)), this, SLOT(CategoryButtonPressed(int)));
+    connect(m_searchButton, SIGNAL(clicked()), this, SLOT(on_line_edit()));
+    connect(m_searchLine, SIGNAL(returnPressed()), this, SLOT(on_line_edit()));
+    // The panel accepts focus but swallows the keys that would lead on from it.
+    setFocusProxy(m_searchLine);
+}
+
+PV3DPartHarbor_2D::~PV3DPartHarbor_2D() = default;
+
+void PV3DPartHarbor_2D::buildPanel()
+{
+    prepareSectionTree(m_form->PH_2DTabPage);
+    const Section section = addSection(m_form->PH_2DTabPage, QObject::tr("Search"), frameGeometry());
+    m_searchItem = section.item;
+    m_searchHeader = section.header;
+    buildSearchRow();
+}
+
+void PV3DPartHarbor_2D::buildSearchRow()
+{
+    QFrame* frame = createSectionFrame(m_form->PH_2DTabPage);
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(5, 3, 5, 3);
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(270);
+
+    m_searchLine = new QLineEdit;
+    m_searchLine->setObjectName(QLatin1String("SearchLine"));
+    m_searchLine->setAccessibleName(QLatin1String("Search term"));
+    m_searchLine->setMinimumHeight(25);
+    m_searchLine->setStyleSheet(QLatin1String("QLineEdit{margin-right : 30px;}"));
+    // The span of 129 columns makes the line and the button overlap.
+    grid->addWidget(m_searchLine, 0, 0, 1, 129);
+
+    m_searchButton = new QPushButton;
+    m_searchButton->setObjectName(QLatin1String("SearchButton"));
+    m_searchButton->setAccessibleName(QLatin1String("Search"));
+    m_searchButton->setMinimumHeight(25);
+    m_searchButton->setIcon(QIcon(QLatin1String(":/3DPH/Resource/search.svg")));
+    grid->addWidget(m_searchButton, 0, 1, 1, 129);
+
+    setSectionContent(m_form->PH_2DTabPage, m_searchItem, frame);
+}
+
+void PV3DPartHarbor_2D::CategoryButtonPressed(int id)
+{
+    toggleSection(*m_sectionItems, *m_sectionButtons, id);
+    update();
+}
+
+void PV3DPartHarbor_2D::on_line_edit()
+{
+    if (m_searchLine->text().isEmpty()) {
+        showErrorBox(QObject::tr("Please enter Search string"));
+        return;
+    }
+    SearchTerm = m_searchLine->text();
+    hide();
+    QWidget* const container = parentWidget();
+    m_parentLayout = container->layout();
+    m_resultsPage = new PartHarbor_2D(m_application, container);
+
+    const QPointer<PV3DPartHarbor_2D> self(this);
+    m_resultsPage->startSearch(); // may open a box, during which the pane may go
+    if (self.isNull())
+        return;
+    delete m_parentLayout->replaceWidget(this, m_resultsPage, Qt::FindChildrenRecursively);
+    m_resultsPage->show();
+}
+
+void PV3DPartHarbor_2D::SetAccessToken(QNetworkReply* /*reply*/)
+{
+}
+
+void PV3DPartHarbor_2D::GetAPIKey(QNetworkReply* /*reply*/)
+{
+}
+
+void PV3DPartHarbor_2D::SetModelData(QNetworkReply* /*reply*/)
+{
+}
+
+bool PV3DPartHarbor_2D::event(QEvent* event)
+{
+    event->accept();
+    return true;
+}
+
+void PV3DPartHarbor_2D::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        emit clicked();
+}

@@ -1,0 +1,28 @@
+#include "panel/Picture.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+namespace
+{
+
+constexpr qint64 MaximumPixels = 16 * 1000 * 1000;
+
+} // namespace
+
+QPixmap pictureFromBytes(const QByteArray& bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+
+    // Most formats tell their size before anything is decoded; one that does not is not trusted.
+    const QSize size = reader.size();
+    if (reader.format().startsWith("svg") || !size.isValid() ||
+        static_cast<qint64>(size.width()) * size.height() > MaximumPixels)
+        return QPixmap();
+    return QPixmap::fromImage(reader.read());
+}

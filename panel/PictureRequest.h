@@ -1,0 +1,11 @@
+#pragma once
+
+class QObject;
+class QString;
+
+/// Fetches a picture with a plain GET on a network manager of its own. The reply comes through the event
+/// loop; its slot releases it with releaseReply(). Asker and manager go together.
+/// @param url as it stands.
+/// @param asker receives the reply; not owned.
+/// @param replySlot SLOT() of the asker that takes a QNetworkReply*.
+void requestPicture(const QString& url, QObject* asker, const char* replySlot);

@@ -1,0 +1,386 @@
+#include "panel/PreviewUI.h"
+
+#include "common/HostString.h"
+#include "common/MessageBoxes.h"
+#include "panel/BlockPlacement.h"
+#include "panel/ClickableLabel.h"
+#include "panel/DownloadedFile.h"
+#include "panel/DrawingViews.h"
+#include "panel/PartHarbor_2D.h"
+#include "panel/QtCategoryButton.h"
+#include "panel/SectionTree.h"
+#include "panel/TableItem.h"
+#include "service/ReplyRelease.h"
+#include "service/SessionValues.h"
+#include "service/SoapReply.h"
+#include "service/SoapRequest.h"
+#include "ui_PreviewUI.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTableWidget>
+
+#include <pvInterface/pvApplication_c.h>
+#include <pvInterface/pvCommandMessage_c.h>
+#include <pvInterface/pvDocument_c.h>
+#include <pvInterface/pvInterfacePtr.h>
+#include <pvInterface/pvModel_c.h>
+#include <pvInterface/pvSketchManager_c.h>
+
+namespace
+{
+
+// The value of left, leading and vertically centred alignment, where a column span belongs; one column or 129
+// look the same here.
+constexpr int ColumnSpan = 129;
+
+void addToColumn(QGridLayout* grid, int row, QWidget* widget)
+{
+    widget->setMinimumHeight(25);
+    widget->setMinimumWidth(40);
+    grid->addWidget(widget, row, 0, 1, ColumnSpan);
+}
+
+QLabel* createCaption(const char* text)
+{
+    auto* caption = new QLabel(QLatin1String(text));
+    caption->setStyleSheet(QLatin1String("font-weight: bold;"));
+    return caption;
+}
+
+/// Where a block goes and how, preset to the drawing's origin in its own size.
+struct Placement {
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    double scaleZ = 1.0;
+    double rotation = 0.0;
+};
+
+pvSketchManager_c* sketchManagerOf(pvDocument_c* document)
+{
+    pvModel_c* model = nullptr;
+    document->GetModel(&model);
+    pvSketchManager_c* manager = nullptr;
+    if (model != nullptr)
+        model->GetSketchManager(&manager);
+    return manager;
+}
+
+/// @return whether the user has placed the block.
+bool promptForPlacement(pvCommandMessage_c* message, const pvString& file, Placement* at)
+{
+    constexpr auto accepted = static_cast<pvPromptResultType_e>(1);
+    pvPromptResultType_e result{};
+    if (message != nullptr)
+        message->PromptForBlockInsertion(file, true, 1.0, 1.0, 1.0, true, 0.0, &at->x, &at->y, &at->z,
+                                         &at->scaleX, &at->scaleY, &at->scaleZ, &at->rotation, &result);
+    return result == accepted;
+}
+
+} // namespace
+
+PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
+    : QWidget(parent),
+      m_form(std::make_unique<Ui::PreviewUI>()),
+      m_parentWidget(parent),
+      m_application(application)
+{
+    m_form->setupUi(this);
+    g_drawingView = drawingViewTexts().constFirst();
+    setUpBackButton();
+    m_sectionButtons = new QButtonGroup(this);
+    prepareSectionTree(m_form->preview_page);
+    buildConfigureSection();
+    buildPreviewSection();
+
+    connect(m_preview_label, SIGNAL(clicked()), this, SLOT(GetDownloadURL()));
+    connect(m_sectionButtons, SIGNAL(buttonClicked(int)), this, SLOT(CategoryButtonPressed(int)));
+    connect(m_form->pushButton, SIGNAL(clicked()), this, SLOT(OnBackbuttonclicked()));
+    connect(m_viewComboBox, SIGNAL(currentIndexChanged(const QString&)), this,
+            SLOT(switchcall(const QString&)));
+}
+
+PreviewUI::~PreviewUI()
+{
+    dropDownload();
+}
+
+void PreviewUI::setUpBackButton()
+{
+    m_form->pushButton->setGeometry(0, 0, 20, 20);
+    m_form->pushButton->setIcon(QIcon(QLatin1String(":/3DPH/Resource/nav-back-20.svg")));
+    m_form->pushButton->setIconSize(m_form->pushButton->size());
+    m_form->pushButton->setToolTip(QLatin1String("Back"));
+}
+
+void PreviewUI::buildConfigureSection()
+{
+    const Section section = addSection(m_form->preview_page, QObject::tr("Configure"), frameGeometry());
+    m_sectionButtons->addButton(section.header, m_sectionItems.size());
+    m_sectionItems.append(section.item);
+
+    QFrame* frame = createSectionFrame(m_form->preview_page);
+    auto* grid = new QGridLayout(frame);
+    grid->setVerticalSpacing(0);
+
+    m_view = createCaption("View : ");
+    addToColumn(grid, 0, m_view);
+    m_viewComboBox = new QComboBox;
+    m_viewComboBox->addItems(drawingViewTexts());
+    m_viewComboBox->setAccessibleName(QLatin1String("View"));
+    addToColumn(grid, 1, m_viewComboBox);
+    m_configuration = createCaption("Configuration : ");
+    addToColumn(grid, 2, m_configuration);
+    ConfigValueLabel = new QLabel(m_configName);
+    ConfigValueLabel->setFrameShape(QFrame::Box);
+    ConfigValueLabel->setFrameShadow(QFrame::Sunken);
+    addToColumn(grid, 3, ConfigValueLabel);
+    buildConfigTable();
+    grid->addWidget(m_configTable, 4, 0, 1, ColumnSpan);
+
+    setSectionContent(m_form->preview_page, section.item, frame);
+}
+
+void PreviewUI::buildConfigTable()
+{
+    m_configTable = new QTableWidget(1, 1);
+    m_configTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_configTable->horizontalHeader()->hide();
+    m_configTable->verticalHeader()->hide();
+    m_configTable->setSelectionMode(QAbstractItemView::NoSelection);
+    m_configTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_configTable->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+}
+
+void PreviewUI::buildPreviewSection()
+{
+    const Section section = addSection(m_form->preview_page, QObject::tr("Preview"), frameGeometry());
+    m_sectionButtons->addButton(section.header, m_sectionItems.size());
+    m_sectionItems.append(section.item);
+
+    QFrame* frame = createSectionFrame(m_form->preview_page);
+    auto* grid = new QGridLayout(frame);
+    grid->setVerticalSpacing(0);
+    m_preview_label = new ClickableLabel(frame, Qt::WindowFlags());
+    m_preview_label->setMinimumHeight(200);
+    m_preview_label->setAccessibleName(QLatin1String("Preview: click to download the drawing"));
+    grid->addWidget(m_preview_label, 0, 0, 1, ColumnSpan);
+
+    setSectionContent(m_form->preview_page, section.item, frame);
+}
+
+void PreviewUI::setModel(const QString& supplierName, const QString& modelName)
+{
+    m_supplierName = supplierName;
+    m_modelName = modelName;
+}
+
+void PreviewUI::showRow(TableItem* row)
+{
+    m_configTable->setCellWidget(0, 0, row);
+}
+
+void PreviewUI::showPreview(const QPixmap& picture)
+{
+    if (picture.isNull())
+        m_preview_label->clear();
+    else
+        m_preview_label->setPixmap(
+            picture.scaled(m_preview_label->width(), m_preview_label->height(), Qt::KeepAspectRatio));
+    m_preview_label->setScaledContents(true);
+    m_preview_label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void PreviewUI::CategoryButtonPressed(int id)
+{
+    toggleSection(m_sectionItems, *m_sectionButtons, id);
+    repaint();
+}
+
+void PreviewUI::OnBackbuttonclicked()
+{
+    hide();
+    m_resultsPage = new PartHarbor_2D(m_application, m_parentWidget);
+
+    const QPointer<PreviewUI> self(this);
+    m_resultsPage->startSearch(); // may open a box, during which the pane may go
+    if (self.isNull())
+        return;
+    m_parentWidget->layout()->addWidget(m_resultsPage);
+    m_resultsPage->show();
+}
+
+void PreviewUI::SetModelData(QNetworkReply* pReply)
+{
+    m_modelData = SoapReply(pReply).text();
+}
+
+void PreviewUI::GetConfigInfo()
+{
+    sendSoapRequest(GetConfigInfoOperation,
+                    {{"apiKey", ApiKey}, {"supplierName", m_supplierName}, {"modelName", m_modelName}}, this,
+                    SLOT(ConfigData(QNetworkReply*)));
+}
+
+void PreviewUI::ConfigData(QNetworkReply* reply)
+{
+    SoapReply answer(reply);
+    if (!answer.open())
+        return;
+    const QDomNodeList configurations =
+        answer.document().elementsByTagName(QLatin1String(GetConfigInfoOperation.resultElement));
+    for (int i = 0; i < configurations.count(); ++i)
+        m_configName = configurations.item(i).firstChild().firstChild().nodeValue();
+    ConfigValueLabel->setText(m_configName);
+
+    sendSoapRequest(GetConfigParamsOperation,
+                    {{"apiKey", ApiKey},
+                     {"supplierName", m_supplierName},
+                     {"modelName", m_modelName},
+                     {"configName", m_configName}},
+                    this, SLOT(ConfigParamData(QNetworkReply*)));
+}
+
+void PreviewUI::ConfigParamData(QNetworkReply* reply)
+{
+    m_inputParameters = QDomNodeList();
+    SoapReply answer(reply);
+    if (!answer.open())
+        return;
+    m_inputParameters =
+        answer.document().elementsByTagName(QLatin1String(GetConfigParamsOperation.resultElement));
+    const QString type = QLatin1String("xsi:type");
+    for (int i = 0; i < m_inputParameters.count(); ++i) {
+        QDomElement parameter = m_inputParameters.item(i).toElement();
+        parameter.removeAttribute(type);
+        parameter.setAttribute(type, QLatin1String("InputParameter"));
+        QDomElement name = parameter.firstChildElement();
+        QDomElement value = name.nextSiblingElement();
+        name.setAttribute(type, QLatin1String("Parameter"));
+        value.setAttribute(type, QLatin1String("ParameterValue"));
+    }
+}
+
+void PreviewUI::switchcall(const QString& text)
+{
+    g_drawingView = drawingViewWireValue(text);
+}
+
+void PreviewUI::GetDownloadURL()
+{
+    if (UserToken.isEmpty()) {
+        showErrorBox(QObject::tr("Please Login to 3DPH to Download."));
+        return;
+    }
+    dropDownload();
+    const QPointer<PreviewUI> self(this);
+    QNetworkReply* reply = sendSoapRequest(GetDownload2DOperation,
+                                           {{"apiKey", ApiKey},
+                                            {"userToken", UserToken},
+                                            {"supplierName", m_supplierName},
+                                            {"modelName", m_modelName},
+                                            {"configName", m_configName},
+                                            {"version", QLatin1String("R2002")},
+                                            {"units", QLatin1String("cm")},
+                                            {"drawingView", drawingViewToRequest(g_drawingView)}},
+                                           this, SLOT(DragAndDrop(QNetworkReply*)));
+    if (!self.isNull())
+        m_downloadReply = reply;
+}
+
+void PreviewUI::DragAndDrop(QNetworkReply* reply)
+{
+    SoapReply answer(reply);
+    m_downloadReply.clear();
+    m_replyText = answer.text();
+    if (!answer.open())
+        return;
+    const QString address = answer.result(GetDownload2DOperation.resultElement);
+    if (address.isEmpty())
+        showErrorBox(unsupportedViewMessage(g_drawingView));
+    else
+        startDownload(address);
+}
+
+void PreviewUI::startDownload(const QString& address)
+{
+    m_form->frame->setEnabled(false);
+    auto* manager = new QNetworkAccessManager(this);
+    const QString fileName = fileNameOf(address);
+    if (QFile::exists(fileName))
+        QFile::remove(fileName);
+    m_downloadFile = std::make_unique<DownloadedFile>(numberedFileName(fileName, g_downloadCounter));
+    if (m_downloadFile->isOpen()) {
+        m_downloadReply = manager->get(QNetworkRequest(QUrl(address)));
+        connect(m_downloadReply, SIGNAL(readyRead()), this, SLOT(httpReadyRead()));
+        connect(m_downloadReply, SIGNAL(finished()), this, SLOT(httpDownloadFinished()));
+    } else {
+        delete manager;
+    }
+    ++g_downloadCounter;
+    m_form->frame->setEnabled(true);
+}
+
+void PreviewUI::httpReadyRead()
+{
+    if (m_downloadFile)
+        m_downloadFile->write(m_downloadReply->readAll());
+}
+
+void PreviewUI::httpDownloadFinished()
+{
+    m_downloadReply->readAll(); // what is still unread is dropped
+    releaseReply(m_downloadReply);
+    m_downloadReply.clear();
+    placeDrawing(this);
+}
+
+void PreviewUI::promptForInsertion()
+{
+    // Held here: the page may go, or begin another download, while the host's prompt is open.
+    const std::unique_ptr<DownloadedFile> file = std::move(m_downloadFile);
+    if (!file)
+        return;
+    file->flush(); // the host reads it by its path
+    m_insertPath = QDir::currentPath() + QLatin1Char('/') + file->name();
+
+    pvDocument_c* document = nullptr;
+    pvCommandMessage_c* message = nullptr;
+    if (m_application != nullptr) {
+        m_application->GetActiveDocument(&document);
+        m_application->GetCommandMessage(&message);
+    }
+    if (document == nullptr)
+        return;
+    // A reference of our own: the drawing may be closed while the prompt is open.
+    const pvInterfacePtr<pvSketchManager_c> sketchManager(sketchManagerOf(document));
+
+    const pvString path = toPVString(m_insertPath);
+    const QPointer<PreviewUI> self(this);
+    Placement at;
+    if (!promptForPlacement(message, path, &at) || self.isNull() || !sketchManager)
+        return;
+    pvBlockInstance_c* block = nullptr;
+    sketchManager->InsertBlock2(path, at.x, at.y, at.z, at.scaleX, at.scaleY, at.scaleZ, at.rotation, &block);
+}
+
+void PreviewUI::dropDownload()
+{
+    withdrawDrawing(this);
+    dropReply(m_downloadReply);
+    m_downloadReply.clear();
+    m_downloadFile.reset();
+}
+
+void PreviewUI::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+}

@@ -1,0 +1,87 @@
+#include "panel/TableItem.h"
+
+#include "panel/PartHarbor_2D.h"
+#include "panel/Picture.h"
+#include "panel/PictureRequest.h"
+#include "panel/PreviewUI.h"
+#include "service/ReplyRelease.h"
+#include "ui_TableItem.h"
+
+#include <QGridLayout>
+#include <QNetworkReply>
+#include <QPointer>
+
+TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
+    : QWidget(parent), m_form(std::make_unique<Ui::TableItem>()), m_page(page)
+{
+    m_form->setupUi(this);
+    connect(m_form->iconpushButton, SIGNAL(clicked()), this, SLOT(Preview()));
+}
+
+TableItem::~TableItem() = default;
+
+void TableItem::setSupplierName(const QString& name)
+{
+    m_form->label->setText(name);
+}
+
+void TableItem::setThumbnailUrl(const QString& url)
+{
+    requestPicture(url, this, SLOT(Iamgedata(QNetworkReply*)));
+}
+
+void TableItem::setModelName(const QString& name)
+{
+    m_form->namevaluelabel->setText(name);
+}
+
+void TableItem::setDescription(const QString& description)
+{
+    m_form->descvaluelabel->setText(description);
+}
+
+void TableItem::setRowIndex(int index)
+{
+    m_rowIndex = index;
+}
+
+void TableItem::setCategory(const QString& category)
+{
+    m_form->catvaluelabel->setText(category);
+}
+
+void TableItem::Iamgedata(QNetworkReply* pReply)
+{
+    const QByteArray bytes = pReply->readAll();
+    releaseReply(pReply);
+    m_form->iconpushButton->setIcon(QIcon(pictureFromBytes(bytes)));
+    m_form->iconpushButton->setIconSize(QSize(80, 130));
+}
+
+void TableItem::Preview()
+{
+    QWidget* const container = m_page->container();
+    auto* layout = qobject_cast<QGridLayout*>(container->layout());
+    m_detailPage = new PreviewUI(m_page->application(), container);
+    layout->addWidget(m_detailPage);
+    m_detailPage->setModel(m_form->label->text(), m_form->namevaluelabel->text());
+
+    const QPointer<TableItem> self(this);
+    m_detailPage->GetConfigInfo(); // may open a box, during which the pane may go
+    if (self.isNull())
+        return;
+    requestPicture(m_page->parser().GetSearchItemImageUrls().value(m_rowIndex), this,
+                   SLOT(PreviewDownloaded(QNetworkReply*)));
+    m_page->releaseRow(this);
+    m_detailPage->showRow(this);
+    m_form->iconpushButton->setEnabled(false);
+    m_page->hide();
+    m_detailPage->show();
+}
+
+void TableItem::PreviewDownloaded(QNetworkReply* pReply)
+{
+    const QByteArray bytes = pReply->readAll();
+    releaseReply(pReply);
+    m_detailPage->showPreview(pictureFromBytes(bytes));
+}
