@@ -1,0 +1,7 @@
+#include "addin/AddInSlot.h"
+
+AddInSlot& GetAddInSlot()
+{
+    static AddInSlot slot;
+    return slot;
+}
