@@ -25,6 +25,10 @@ function(dockwidget_add_test)
     TIMEOUT ${arg_TIMEOUT}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_CACHE_HOME=${home}/cache;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/runtime"
     ENVIRONMENT_MODIFICATION "QT_LOGGING_RULES=unset:;QT_LOGGING_CONF=unset:;QT_MESSAGE_PATTERN=unset:;QT_STYLE_OVERRIDE=unset:;QT_SCALE_FACTOR=unset:;QT_FATAL_WARNINGS=unset:")
+  if(DOCKWIDGET_SANITIZERS)
+    set_property(TEST ${arg_NAME} APPEND PROPERTY ENVIRONMENT
+      "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
+  endif()
   if(arg_RESOURCE_LOCK)
     set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK ${arg_RESOURCE_LOCK})
   endif()
