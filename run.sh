@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and starts the development host with the add-in and the development catalog.
+# Without a display, or with --tour [DIR], the road through the add-in is played offscreen instead; its screenshots
+# go to DIR (out/tour where none is named). The other options are the development host's: ./run.sh --help
+set -euo pipefail
+cd "$(dirname "$0")"
+. scripts/install-packages.sh
+
+has_option() { # has_option NAME ARGUMENTS...
+    local wanted=$1 argument
+    shift
+    for argument in "$@"; do
+        [ "$argument" != "$wanted" ] || return 0
+    done
+    return 1
+}
+
+install_packages $RUN_PACKAGES
+if has_option --language "$@"; then
+    install_packages fonts-noto-cjk # Japanese, Chinese and Korean are among the languages
+fi
+
+build=${DOCKWIDGET_BUILD_DIR:-build/dev}
+if [ ! -f "$build/build.ninja" ]; then
+    cmake --preset run -B "$build"
+fi
+cmake --build "$build" --target DockWidget devhost
+
+if has_option --tour "$@" || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
+    has_option --tour "$@" || set -- "$@" --tour out/tour
+fi
+exec "$build/devhost/devhost" "$@"

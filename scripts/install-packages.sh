@@ -1,0 +1,37 @@
+# Sourced by run.sh, test.sh and .ci/run. install_packages NAME...: installs the Debian packages that are missing,
+# as root or through sudo, and asks nothing.
+
+missing_packages() {
+    local name
+    for name in "$@"; do
+        dpkg-query --show --showformat='${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed || echo "$name"
+    done
+}
+
+install_packages() {
+    command -v dpkg-query >/dev/null || { echo "$0: this needs Debian (dpkg-query not found)." >&2; return 1; }
+    local missing as_root
+    missing=$(missing_packages "$@")
+    [ -n "$missing" ] || return 0
+    if [ "$(id -u)" = 0 ]; then
+        as_root=
+    elif command -v sudo >/dev/null && sudo -n true 2>/dev/null; then
+        as_root="sudo -n"
+    else
+        echo "$0: these packages are missing, and neither root nor sudo without a password is to be had:" \
+            $missing >&2
+        return 1
+    fi
+    echo "Installing:" $missing
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update >/dev/null &&
+        $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -y --no-install-recommends install $missing \
+            >/dev/null || { echo "$0: the packages could not be installed:" $missing >&2; return 1; }
+}
+
+# What building needs, and what running needs besides: the toolkit's SVG plugin, without which every SVG icon is
+# blank, and a font.
+BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
+    libcpp-httplib-dev libssl-dev libpugixml-dev libgdal-dev"
+RUN_PACKAGES="$BUILD_PACKAGES libqt5svg5 fonts-dejavu-core"
+# What only the tests need: fonts for every language, a display of their own, and a second reader of drawings.
+TEST_PACKAGES="fonts-noto-cjk xvfb xauth nodejs npm"
