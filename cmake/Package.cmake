@@ -1,0 +1,15 @@
+# What a deployment gets: the library to put beside the host, and the page that says what the host must bring.
+install(TARGETS DockWidget DESTINATION . COMPONENT addin)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/integration.md DESTINATION . COMPONENT addin)
+
+set(CPACK_PACKAGE_NAME DockWidget)
+set(CPACK_PACKAGE_VENDOR "DockWidget maintainers")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "PartHarbor catalog pane for Plotvane")
+set(CPACK_COMPONENTS_ALL addin)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+else()
+  set(CPACK_GENERATOR TGZ)
+endif()
+include(CPack)
