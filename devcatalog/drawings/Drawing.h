@@ -23,8 +23,8 @@ struct Circle {
     double radius = 0.0;
 };
 
-/// A vertex of a polyline; the bulge belongs to the segment that starts here: tan(sweep / 4), positive counter-clockwise,
-/// 0 for a straight one.
+/// A vertex of a polyline; the bulge belongs to the segment that starts here: tan(sweep / 4), positive
+/// counter-clockwise, 0 for a straight one.
 struct PolylineVertex {
     Point2 point;
     double bulge = 0.0;

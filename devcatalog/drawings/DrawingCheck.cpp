@@ -17,6 +17,8 @@ namespace
 constexpr double largestCoordinate = 1.0e9;
 /// An arc with this bulge is a circle but for a four-millionth of a turn.
 constexpr double largestBulge = 1.0e6;
+/// Keeps a polyline below 32 KB; some readers show nothing of a drawing that has a larger object.
+constexpr std::size_t mostVertices = 1000;
 constexpr std::size_t mostPoints = 1'000'000;
 
 [[noreturn]] void fail(std::size_t entityIndex, const std::string& fault)
@@ -49,8 +51,9 @@ public:
 
     std::size_t operator()(const Polyline& polyline) const
     {
-        if (polyline.vertices.size() < 2) {
-            fail(m_entityIndex, "a polyline needs two vertices");
+        const std::size_t count = polyline.vertices.size();
+        if (count < 2 || count > mostVertices) {
+            fail(m_entityIndex, "the polyline does not have 2 to 1000 vertices");
         }
         for (const PolylineVertex& vertex : polyline.vertices) {
             checkPoint(vertex.point);
@@ -59,7 +62,7 @@ public:
                 fail(m_entityIndex, "the bulge is too large");
             }
         }
-        return polyline.vertices.size();
+        return count;
     }
 
 private:

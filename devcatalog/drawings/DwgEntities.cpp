@@ -53,17 +53,18 @@ public:
         const Polyline polyline = withoutClosingArc(shape);
         const std::vector<PolylineVertex>& vertices = polyline.vertices;
         const auto count = static_cast<std::uint32_t>(vertices.size());
-        const bool curved = !std::all_of(vertices.begin(), vertices.end(), isStraight);
+        // A closed line has its bulges even if all are zero: without them some readers leave it open.
+        const bool withBulges = polyline.closed || !std::all_of(vertices.begin(), vertices.end(), isStraight);
 
         DwgObject object = beginEntity(DwgObjectType::LwPolyline, m_place);
         BitWriter& data = object.data();
-        data.bitShort((curved ? hasBulges : 0) | (polyline.closed ? isClosed : 0));
+        data.bitShort((withBulges ? hasBulges : 0) | (polyline.closed ? isClosed : 0));
         data.bitLong(count);
-        if (curved) {
+        if (withBulges) {
             data.bitLong(count);
         }
         writeVertices(data, vertices);
-        if (curved) {
+        if (withBulges) {
             for (const PolylineVertex& vertex : vertices) {
                 data.bitDouble(vertex.bulge);
             }

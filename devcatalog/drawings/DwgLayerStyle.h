@@ -24,7 +24,7 @@ using DwgLayerStyles = std::array<DwgLayerStyle, 3>;
 /// mechanical drawing of line group 0.5.
 inline DwgLayerStyles standardLayerStyles()
 {
-    return {{{"Outline", 7, 50}, {"Hidden", 8, 35}, {"Centre", 1, 25}}};
+    return {{{"Outline", 7, 50}, {"Hidden", 253, 35}, {"Centre", 1, 25}}};
 }
 
 } // namespace devcatalog

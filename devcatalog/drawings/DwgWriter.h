@@ -21,9 +21,9 @@ namespace devcatalog
 /// @return the file's bytes.
 /// @throws std::invalid_argument naming what is wrong: a coordinate or bulge that is not finite or too large,
 /// a radius
-///         that is not positive, a polyline of less than two vertices, too many points, a layer name that is
-///         empty, too long, has a forbidden character or occurs twice (letter case ignored; "0" is taken), an
-///         unknown colour or lineweight.
+///         that is not positive, a polyline of less than 2 or more than 1000 vertices, too many points, a
+///         layer name that is empty, too long, has a forbidden character or occurs twice (letter case
+///         ignored; "0" is taken), an unknown colour or lineweight.
 std::string writeDwg(const Drawing& drawing, const DwgLayerStyles& styles = standardLayerStyles());
 
 } // namespace devcatalog

@@ -1,0 +1,85 @@
+// What a drawing was meant to hold, in the form in which drawing-reader.mjs gives what a file does hold.
+
+import { inCodePage } from './windows-1252.mjs';
+
+const objectsOfAnEmptyDrawing = 39;
+const firstEntityHandle = 0x35;
+const emptyLimits = { min: [0, 0], max: [12, 9] };
+
+function segmentsOf(entity) {
+  const points = entity.closed ? [...entity.points, entity.points[0]] : entity.points;
+  return entity.bulges.map((bulge, index) => ({ from: points[index], to: points[index + 1], bulge }));
+}
+
+/// A closed run of segments may begin anywhere: here, with the one whose text sorts first.
+export function canonicalPolyline(layer, closed, segments) {
+  if (!closed) {
+    return { kind: 'polyline', layer, closed, segments };
+  }
+  const texts = segments.map((segment) => JSON.stringify(segment));
+  const first = texts.indexOf([...texts].sort()[0]);
+  return { kind: 'polyline', layer, closed, segments: [...segments.slice(first), ...segments.slice(0, first)] };
+}
+
+/// The points of an arc that can lie farthest out: its ends, and where it crosses its circle's axes.
+function outermostPoints({ from, to, bulge }) {
+  if (Math.abs(bulge) < 1e-6) {
+    return [from, to];
+  }
+  const sweep = 4 * Math.atan(bulge);
+  const chord = [to[0] - from[0], to[1] - from[1]];
+  const radius = Math.hypot(...chord) / (2 * Math.abs(Math.sin(sweep / 2)));
+  const start = Math.atan2(chord[1], chord[0]) - sweep / 2 - Math.sign(sweep) * (Math.PI / 2);
+  const centre = [from[0] - radius * Math.cos(start), from[1] - radius * Math.sin(start)];
+  const points = [from, to];
+  for (const [x, y] of [[1, 0], [0, 1], [-1, 0], [0, -1]]) {
+    const turn = Math.sign(sweep) * (Math.atan2(y, x) - start);
+    const passed = ((turn % (2 * Math.PI)) + 2 * Math.PI) % (2 * Math.PI);
+    if (passed <= Math.abs(sweep)) {
+      points.push([centre[0] + radius * x, centre[1] + radius * y]);
+    }
+  }
+  return points;
+}
+
+function reachOf(entity) {
+  switch (entity.kind) {
+    case 'line':
+      return [entity.from, entity.to];
+    case 'circle': {
+      const [x, y] = entity.centre;
+      return [[x - entity.radius, y - entity.radius], [x + entity.radius, y + entity.radius]];
+    }
+    default:
+      return segmentsOf(entity).flatMap(outermostPoints);
+  }
+}
+
+function extentsOf(entities) {
+  const points = entities.flatMap(reachOf);
+  if (points.length === 0) {
+    return null;
+  }
+  const along = (axis) => points.map((point) => point[axis]);
+  const least = (numbers) => numbers.reduce((a, b) => Math.min(a, b));
+  const most = (numbers) => numbers.reduce((a, b) => Math.max(a, b));
+  return { min: [least(along(0)), least(along(1))], max: [most(along(0)), most(along(1))] };
+}
+
+/// @param drawing as dwg_samples writes it: title and entities.
+/// @param sameInEveryDrawing everything that does not depend on the drawing.
+export function intendedDrawing(drawing, sameInEveryDrawing) {
+  const extents = extentsOf(drawing.entities);
+  return {
+    title: inCodePage(drawing.title).slice(0, 255),
+    entities: drawing.entities.map((entity) =>
+      entity.kind === 'polyline' ? canonicalPolyline(entity.layer, entity.closed, segmentsOf(entity)) : entity
+    ),
+    extents,
+    limits: extents ?? emptyLimits,
+    viewShowsAll: true,
+    objectCount: objectsOfAnEmptyDrawing + drawing.entities.length,
+    nextHandle: firstEntityHandle + drawing.entities.length,
+    sameInEveryDrawing,
+  };
+}
