@@ -1,8 +1,6 @@
 #include "service/CookieJar.h"
-#include "tests/support/ConnectProxy.h"
 #include "tests/support/FatalWarnings.h"
-#include "tests/support/ScriptedService.h"
-#include "tests/support/TestCertificates.h"
+#include "tests/support/ScriptedCatalog.h"
 
 #include <QDataStream>
 #include <QMetaEnum>
@@ -18,7 +16,7 @@
 namespace
 {
 
-const QUrl site("https://catalog.test:8443/ContentWS/");
+const QUrl site("https://" + test::ScriptedCatalog::host() + "/ContentWS/");
 
 QDateTime inDays(int days)
 {
@@ -177,8 +175,9 @@ void CookieJarTest::sitesThatMaySetCookies_data()
     QTest::addColumn<QStringList>("hosts");
     QTest::addColumn<bool>("accepted");
 
-    const QStringList listed{"zone.test", "catalog.test", "another.test"};
-    const QStringList near{"test", ".catalog.test", "Catalog.test", "www.catalog.test", "catalog.test:8443"};
+    const QString host = site.host();
+    const QStringList listed{"zone.test", host, "another.test"};
+    const QStringList near{host.section('.', 1), "." + host, host.toUpper(), "www." + host, site.authority()};
     QTest::addRow("always") << CookieJar::AcceptAlways << QByteArray("allowedCookies") << QStringList()
                             << true;
     QTest::addRow("always, blocked") << CookieJar::AcceptAlways << QByteArray("blockedCookies") << listed
@@ -223,7 +222,7 @@ void CookieJarTest::cookiesThatTheToolkitRefuses_data()
     QTest::addColumn<bool>("accepted");
     QTest::addRow("always") << CookieJar::AcceptAlways << QStringList() << true;
     QTest::addRow("navigated") << CookieJar::AcceptOnlyFromSitesNavigatedTo << QStringList() << false;
-    QTest::addRow("never, allowed") << CookieJar::AcceptNever << QStringList("catalog.test") << false;
+    QTest::addRow("never, allowed") << CookieJar::AcceptNever << QStringList(site.host()) << false;
 }
 
 void CookieJarTest::cookiesThatTheToolkitRefuses()
@@ -455,15 +454,12 @@ void CookieJarTest::exchangeWithAService_data()
 void CookieJarTest::exchangeWithAService()
 {
     QFETCH(CookieJar::AcceptPolicy, policy);
-    test::TestCertificates certificates("catalog.test");
-    certificates.trust();
-    test::ScriptedService service(certificates.good());
-    service.setReply("/ContentWS/", test::ScriptedReply::xml("<x/>")
-                                        .withHeader("Set-Cookie", "session=1; Path=/")
-                                        .withHeader("Set-Cookie", "lasting=2; Path=/; Max-Age=31536000")
-                                        .withHeader("Set-Cookie", "foreign=3; Domain=elsewhere.test"));
-    test::ConnectProxy proxy(service.port());
-    proxy.use();
+    test::ScriptedCatalog catalog;
+    catalog.service().setReply("/ContentWS/",
+                               test::ScriptedReply::xml("<x/>")
+                                   .withHeader("Set-Cookie", "session=1; Path=/")
+                                   .withHeader("Set-Cookie", "lasting=2; Path=/; Max-Age=31536000")
+                                   .withHeader("Set-Cookie", "foreign=3; Domain=elsewhere.test"));
 
     QNetworkAccessManager manager;
     auto* jar = new OpenJar;
@@ -476,8 +472,8 @@ void CookieJarTest::exchangeWithAService()
         QCOMPARE(reply->error(), QNetworkReply::NoError);
     }
 
-    QCOMPARE(service.requests().at(0).header("Cookie"), QByteArray());
-    QTEST(service.requests().at(1).header("Cookie"), "sentBack");
+    QCOMPARE(catalog.service().requests().at(0).header("Cookie"), QByteArray());
+    QTEST(catalog.service().requests().at(1).header("Cookie"), "sentBack");
     for (const QNetworkCookie& cookie : jar->allCookies()) {
         QVERIFY(cookie.isSessionCookie() || cookie.expirationDate() <= inDays(90));
     }

@@ -52,6 +52,11 @@ quint16 ScriptedService::port() const
     return m_server->serverPort();
 }
 
+void ScriptedService::stopListening()
+{
+    m_server->close();
+}
+
 void ScriptedService::setReply(const QString& key, const ScriptedReply& reply)
 {
     m_standing.insert(key, reply);

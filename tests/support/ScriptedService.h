@@ -37,6 +37,8 @@ public:
     ~ScriptedService() override;
 
     quint16 port() const;
+    /// Refuses connections from here on; those that stand are kept.
+    void stopListening();
 
     /// The answer whenever nothing is queued.
     void setReply(const QString& key, const ScriptedReply& reply);

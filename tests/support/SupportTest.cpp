@@ -1,8 +1,6 @@
-#include "tests/support/ConnectProxy.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"
-#include "tests/support/ScriptedService.h"
-#include "tests/support/TestCertificates.h"
+#include "tests/support/ScriptedCatalog.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -12,7 +10,7 @@
 
 using test::ScriptedReply;
 
-using Identity = test::ServerIdentity (test::TestCertificates::*)() const;
+using Identity = test::ScriptedCatalog::Identity;
 
 Q_DECLARE_METATYPE(test::ScriptedReply)
 Q_DECLARE_METATYPE(Identity)
@@ -21,6 +19,7 @@ namespace
 {
 
 const QString operation = "UserLogin";
+const QString path = "/ContentWS/ExternalWS.asmx";
 const QByteArray body = "0123456789";
 
 } // namespace
@@ -53,37 +52,29 @@ private:
     Reply post(const QByteArray& requestBody = "<x/>");
 
     std::unique_ptr<test::FatalWarnings> m_warnings;
-    std::unique_ptr<test::TestCertificates> m_certificates;
-    std::unique_ptr<test::ScriptedService> m_service;
-    std::unique_ptr<test::ConnectProxy> m_proxy;
+    std::unique_ptr<test::ScriptedCatalog> m_catalog;
     std::unique_ptr<QNetworkAccessManager> m_manager;
 };
 
 void SupportTest::init()
 {
     m_warnings = std::make_unique<test::FatalWarnings>();
-    m_certificates = std::make_unique<test::TestCertificates>("catalog.test");
-    m_certificates->trust();
-    m_service = std::make_unique<test::ScriptedService>(m_certificates->good());
-    m_proxy = std::make_unique<test::ConnectProxy>(m_service->port());
-    m_proxy->use();
+    m_catalog = std::make_unique<test::ScriptedCatalog>();
     m_manager = std::make_unique<QNetworkAccessManager>();
 }
 
 void SupportTest::cleanup()
 {
     m_manager.reset();
-    m_proxy.reset();
-    m_service.reset();
-    m_certificates.reset();
+    m_catalog.reset();
     m_warnings.reset();
 }
 
 SupportTest::Reply SupportTest::post(const QByteArray& requestBody)
 {
-    QNetworkRequest request(QUrl("https://catalog.test:8443/ContentWS/ExternalWS.asmx"));
+    QNetworkRequest request(QUrl("https://" + test::ScriptedCatalog::host() + path));
     request.setRawHeader("Content-Type", "text/xml; charset=utf-8");
-    request.setRawHeader("SOAPAction", "http://catalog.test:8443/Content/" + operation.toUtf8());
+    request.setRawHeader("SOAPAction", "urn:content/" + operation.toUtf8());
     return Reply(m_manager->post(request, requestBody));
 }
 
@@ -106,7 +97,7 @@ void SupportTest::repliesEndAsScripted_data()
 void SupportTest::repliesEndAsScripted()
 {
     QFETCH(ScriptedReply, scripted);
-    m_service->setReply(operation, scripted);
+    m_catalog->service().setReply(operation, scripted);
     const Reply reply = post();
     QTRY_VERIFY(reply->isFinished());
     QTEST(reply->error(), "error");
@@ -122,24 +113,24 @@ void SupportTest::requestsAreRecordedAsTheyArrive()
     const Reply second = post();
     QTRY_VERIFY(second->isFinished());
 
-    const auto& requests = m_service->requests();
+    const auto& requests = m_catalog->service().requests();
     QCOMPARE(requests.size(), 2);
     QCOMPARE(requests.at(0).method, QByteArray("POST"));
-    QCOMPARE(requests.at(0).path(), QString("/ContentWS/ExternalWS.asmx"));
+    QCOMPARE(requests.at(0).path(), path);
     QCOMPARE(requests.at(0).operation(), operation);
     QCOMPARE(requests.at(0).body, large);
     QCOMPARE(requests.at(0).header("content-length"), QByteArray("300000"));
     QVERIFY(requests.at(0).head.contains("Content-Type: text/xml; charset=utf-8\r\n"));
     QCOMPARE(requests.at(1).body, QByteArray("<x/>"));
-    QCOMPARE(m_service->requests(operation).size(), 2);
-    QCOMPARE(m_service->requests("/elsewhere").size(), 0);
+    QCOMPARE(m_catalog->service().requests(operation).size(), 2);
+    QCOMPARE(m_catalog->service().requests("/elsewhere").size(), 0);
 }
 
 void SupportTest::queuedRepliesGoBeforeTheStandingOne()
 {
-    m_service->setReply("/ContentWS/ExternalWS.asmx", ScriptedReply::result(operation, "by path"));
-    m_service->setReply(operation, ScriptedReply::result(operation, "a < b"));
-    m_service->enqueue(operation, ScriptedReply::fault("one & two"));
+    m_catalog->service().setReply(path, ScriptedReply::result(operation, "by path"));
+    m_catalog->service().setReply(operation, ScriptedReply::result(operation, "a < b"));
+    m_catalog->service().enqueue(operation, ScriptedReply::fault("one & two"));
 
     const Reply first = post();
     QTRY_VERIFY(first->isFinished());
@@ -152,17 +143,17 @@ void SupportTest::queuedRepliesGoBeforeTheStandingOne()
 
 void SupportTest::heldRepliesWait()
 {
-    m_service->enqueue(operation, ScriptedReply::xml("first").held());
-    m_service->enqueue(operation, ScriptedReply::xml("second").held());
+    m_catalog->service().enqueue(operation, ScriptedReply::xml("first").held());
+    m_catalog->service().enqueue(operation, ScriptedReply::xml("second").held());
     const Reply first = post();
-    QTRY_COMPARE(m_service->heldCount(), 1);
+    QTRY_COMPARE(m_catalog->service().heldCount(), 1);
     const Reply second = post();
-    QTRY_COMPARE(m_service->heldCount(), 2);
+    QTRY_COMPARE(m_catalog->service().heldCount(), 2);
 
-    m_service->release(1);
+    m_catalog->service().release(1);
     QTRY_VERIFY(second->isFinished());
     QVERIFY(!first->isFinished());
-    m_service->releaseAll();
+    m_catalog->service().releaseAll();
     QTRY_VERIFY(first->isFinished());
     QCOMPARE(first->readAll(), QByteArray("first"));
     QCOMPARE(second->readAll(), QByteArray("second"));
@@ -170,12 +161,13 @@ void SupportTest::heldRepliesWait()
 
 void SupportTest::aReplyCanBeHeldInTheMiddle()
 {
-    m_service->setReply(operation, ScriptedReply::cutShort(body).withHeader("X-Kind", "late").heldAfter(4));
+    m_catalog->service().setReply(operation,
+                                  ScriptedReply::cutShort(body).withHeader("X-Kind", "late").heldAfter(4));
     const Reply reply = post();
     QTRY_COMPARE(reply->bytesAvailable(), 4);
     QCOMPARE(reply->rawHeader("X-Kind"), QByteArray("late"));
     QVERIFY(!reply->isFinished());
-    m_service->releaseAll();
+    m_catalog->service().releaseAll();
     QTRY_VERIFY(reply->isFinished());
     QCOMPARE(reply->readAll(), body);
     QCOMPARE(reply->error(), QNetworkReply::RemoteHostClosedError);
@@ -183,9 +175,9 @@ void SupportTest::aReplyCanBeHeldInTheMiddle()
 
 void SupportTest::aSilentServiceIsLeftByTheClient()
 {
-    m_service->setReply(operation, ScriptedReply::never());
+    m_catalog->service().setReply(operation, ScriptedReply::never());
     const Reply reply = post();
-    QTRY_COMPARE(m_service->requests().size(), 1);
+    QTRY_COMPARE(m_catalog->service().requests().size(), 1);
     QVERIFY(!reply->isFinished());
     reply->abort();
     QCOMPARE(reply->error(), QNetworkReply::OperationCanceledError);
@@ -193,12 +185,13 @@ void SupportTest::aSilentServiceIsLeftByTheClient()
 
 void SupportTest::theProxyLeadsEveryNameToTheService()
 {
-    m_service->setReply("/picture.svg", ScriptedReply::status(200, body, "image/svg+xml"));
-    const Reply reply(m_manager->get(QNetworkRequest(QUrl("https://catalog.test:8443/picture.svg?size=1"))));
+    m_catalog->service().setReply("/picture.svg", ScriptedReply::status(200, body, "image/svg+xml"));
+    const Reply reply(m_manager->get(
+        QNetworkRequest(QUrl("https://" + test::ScriptedCatalog::host() + "/picture.svg?size=1"))));
     QTRY_VERIFY(reply->isFinished());
     QCOMPARE(reply->readAll(), body);
-    QCOMPARE(m_service->requests("/picture.svg").at(0).target, QByteArray("/picture.svg?size=1"));
-    QCOMPARE(m_proxy->destinations(), QStringList("catalog.test:8443"));
+    QCOMPARE(m_catalog->service().requests("/picture.svg").at(0).target, QByteArray("/picture.svg?size=1"));
+    QCOMPARE(m_catalog->proxy().destinations(), QStringList(test::ScriptedCatalog::host()));
 }
 
 void SupportTest::refusedConnections_data()
@@ -212,9 +205,9 @@ void SupportTest::refusedConnections()
 {
     QFETCH(bool, byProxy);
     if (byProxy) {
-        m_proxy->setRefusing(true);
+        m_catalog->proxy().setRefusing(true);
     } else {
-        m_service.reset();
+        m_catalog->service().stopListening();
     }
     const Reply reply = post();
     QTRY_VERIFY(reply->isFinished());
@@ -225,34 +218,27 @@ void SupportTest::certificates_data()
 {
     using Certificates = test::TestCertificates;
     QTest::addColumn<Identity>("identity");
-    QTest::addColumn<bool>("trusted");
-    QTest::addColumn<QNetworkReply::NetworkError>("error");
-    QTest::addRow("good") << &Certificates::good << true << QNetworkReply::NoError;
-    QTest::addRow("authority unknown")
-        << &Certificates::good << false << QNetworkReply::SslHandshakeFailedError;
-    QTest::addRow("untrusted") << &Certificates::untrusted << true << QNetworkReply::SslHandshakeFailedError;
-    QTest::addRow("expired") << &Certificates::expired << true << QNetworkReply::SslHandshakeFailedError;
-    QTest::addRow("wrong name") << &Certificates::wrongName << true << QNetworkReply::SslHandshakeFailedError;
+    QTest::addColumn<bool>("accepted");
+    QTest::addRow("good") << &Certificates::good << true;
+    QTest::addRow("untrusted") << &Certificates::untrusted << false;
+    QTest::addRow("expired") << &Certificates::expired << false;
+    QTest::addRow("wrong name") << &Certificates::wrongName << false;
 }
 
 void SupportTest::certificates()
 {
     QFETCH(Identity, identity);
-    QFETCH(bool, trusted);
-    m_certificates.reset(); // takes back the trust that init() gave
-    m_certificates = std::make_unique<test::TestCertificates>("catalog.test");
-    if (trusted) {
-        m_certificates->trust();
-    }
-    test::ScriptedService service(((*m_certificates).*identity)());
+    QFETCH(bool, accepted);
+    m_catalog.reset(); // takes back proxy and trust before the next one
+    m_catalog = std::make_unique<test::ScriptedCatalog>(identity);
+    test::ScriptedService& service = m_catalog->service();
     service.setReply(operation, ScriptedReply::xml(body));
-    m_proxy->setTargetPort(service.port());
 
     const Reply reply = post();
     QTRY_VERIFY(reply->isFinished());
-    QTEST(reply->error(), "error");
+    QCOMPARE(reply->error(), accepted ? QNetworkReply::NoError : QNetworkReply::SslHandshakeFailedError);
     QCOMPARE(service.connectionCount(), 1);
-    QCOMPARE(service.byteCount() > 0, reply->error() == QNetworkReply::NoError);
+    QCOMPARE(service.byteCount() > 0, accepted);
 }
 
 void SupportTest::messageBoxesAreNotedAndAnswered()

@@ -1,0 +1,22 @@
+#include "tests/support/ScriptedCatalog.h"
+
+#include <QUrl>
+
+namespace test
+{
+
+ScriptedCatalog::ScriptedCatalog(Identity identity)
+    : m_certificates(QUrl("https://" + host()).host()),
+      m_service((m_certificates.*identity)()),
+      m_proxy(m_service.port())
+{
+    m_certificates.trust();
+    m_proxy.use();
+}
+
+QString ScriptedCatalog::host()
+{
+    return TEST_SERVICE_HOST;
+}
+
+} // namespace test
