@@ -16,8 +16,6 @@
 #include <pvInterface/pvWorkspace_c.h>
 #include <pvLibrary/pvObjectPtrArray.h>
 
-#include <vector>
-
 namespace
 {
 
@@ -92,22 +90,24 @@ bool hasApiID(T* item, const pvString& wanted)
     return id.Compare(wanted) == 0;
 }
 
-/// The non-null tabs or panels of a list that carry an API identifier. Their names are asked for as well, as
-/// the host's own walk through its ribbon does.
-template <class T>
-std::vector<T*> itemsWithApiID(const pvObjectPtrArray& items, const pvString& wanted)
+/// Whether a walk through the ribbon reads the names of what it passes. Nothing uses them; hosts see them
+/// read when a button is inserted, and not when it is removed.
+enum class RibbonNames { Read, Unread };
+
+/// Calls @p visit with each tab or panel of a list that carries an API identifier; null entries are skipped.
+template <class T, class Visit>
+void forEachWithApiID(const pvObjectPtrArray& items, const pvString& wanted, RibbonNames names, Visit visit)
 {
-    std::vector<T*> found;
     for (int i = 0; i < items.getSize(); ++i) {
         auto* item = dynamic_cast<T*>(items[i]);
         if (item == nullptr)
             continue;
         pvString name;
-        item->get_Name(&name);
+        if (names == RibbonNames::Read)
+            item->get_Name(&name);
         if (hasApiID(item, wanted))
-            found.push_back(item);
+            visit(item);
     }
-    return found;
 }
 
 pvRibbonRow_c* importRow(pvRibbonPanel_c* panel)
@@ -119,7 +119,7 @@ pvRibbonRow_c* importRow(pvRibbonPanel_c* panel)
 
 /// Calls @p visit with each ribbon row meant for imports, tab by tab and panel by panel.
 template <class Visit>
-void forEachImportRow(pvApplication_c* application, Visit visit)
+void forEachImportRow(pvApplication_c* application, RibbonNames names, Visit visit)
 {
     pvWorkspace_c* workspace = nullptr;
     if (application != nullptr)
@@ -128,14 +128,14 @@ void forEachImportRow(pvApplication_c* application, Visit visit)
         return;
     pvObjectPtrArray tabs;
     workspace->GetRibbonTabs(&tabs);
-    for (pvRibbonTab_c* tab : itemsWithApiID<pvRibbonTab_c>(tabs, L"ID_ImportTab")) {
+    forEachWithApiID<pvRibbonTab_c>(tabs, L"ID_ImportTab", names, [&](pvRibbonTab_c* tab) {
         pvObjectPtrArray panels;
         tab->GetRibbonPanels(&panels);
-        for (pvRibbonPanel_c* panel : itemsWithApiID<pvRibbonPanel_c>(panels, L"ID_ImportPanel")) {
+        forEachWithApiID<pvRibbonPanel_c>(panels, L"ID_ImportPanel", names, [&](pvRibbonPanel_c* panel) {
             if (pvRibbonRow_c* row = importRow(panel))
                 visit(row);
-        }
-    }
+        });
+    });
 }
 
 /// Removes what carries the add-in's identifier from a snapshot of the row.
@@ -177,7 +177,7 @@ bool DockWidgetApplication::CreateUserInterfaceAndCommands()
 void DockWidgetApplication::AddRibbonItem(const pvString& /*rowName*/, const pvString& caption,
                                           const pvString& userCommandID)
 {
-    forEachImportRow(m_app.get(), [&](pvRibbonRow_c* row) {
+    forEachImportRow(m_app.get(), RibbonNames::Read, [&](pvRibbonRow_c* row) {
         pvRibbonCommandButton_c* button = nullptr;
         row->InsertRibbonCommandButton(appID, RibbonButtonStyle, caption, userCommandID, &button);
     });
@@ -185,5 +185,5 @@ void DockWidgetApplication::AddRibbonItem(const pvString& /*rowName*/, const pvS
 
 void DockWidgetApplication::RemoveRibbonRowItem()
 {
-    forEachImportRow(m_app.get(), [](pvRibbonRow_c* row) { removeOwnItems(row); });
+    forEachImportRow(m_app.get(), RibbonNames::Unread, removeOwnItems);
 }

@@ -1,5 +1,7 @@
 #include "addin/DockWidgetApplication.h"
 
+#include <QTabWidget>
+
 const pvString DockWidgetApplication::appID(L"5B1C0F4E-27D3-4A96-8E21-0C7DA4E39F52");
 LogInPage* DockWidgetApplication::m_LogInPage = nullptr;
 
@@ -13,6 +15,7 @@ DockWidgetApplication::~DockWidgetApplication()
 {
     if (m_customPropertyControl)
         m_customPropertyControl->Destroy();
+    delete m_tabWidget; // null unless the host kept its pane: no widget may outlive the library's code
 }
 
 DockWidgetApplication& DockWidgetApplication::operator=(const DockWidgetApplication& other) = default;

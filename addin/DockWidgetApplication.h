@@ -2,6 +2,8 @@
 
 #include "addin/Export.h"
 
+#include <QPointer>
+
 #include <pvInterface/pvApplication_c.h>
 #include <pvInterface/pvCommandEvents_c.h>
 #include <pvInterface/pvCustomPropertyControl_c.h>
@@ -22,7 +24,7 @@ public:
     explicit DockWidgetApplication(pvApplication_c* application);
     /// Copies field by field. The add-in makes no copies: each would destroy the pane at its end.
     DockWidgetApplication(const DockWidgetApplication& other);
-    /// Destroys the pane, and with it every widget of the add-in.
+    /// Destroys the pane, and with it every widget of the add-in, also in a host that keeps its pane.
     ~DockWidgetApplication();
     DockWidgetApplication& operator=(const DockWidgetApplication& other);
 
@@ -61,7 +63,7 @@ public:
 private:
     static LogInPage* m_LogInPage;
 
-    QTabWidget* m_tabWidget = nullptr;
+    QPointer<QTabWidget> m_tabWidget; ///< Child of the pane's widget, which the host may delete at any time.
     bool m_visible = false;
     pvInterfacePtr<pvApplication_c> m_app;
     pvInterfacePtr<pvCustomPropertyControl_c> m_customPropertyControl;
