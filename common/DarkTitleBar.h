@@ -12,7 +12,7 @@
 /// @return 0 on success.
 using WindowAttributeSetter = long (*)(std::uintptr_t window, unsigned long attribute, std::int32_t value);
 
-/// @return the platform's setter; null where the platform, or its release, has none.
+/// @return the platform's setter; null where the platform has none.
 WindowAttributeSetter platformWindowAttributeSetter();
 
 /// What requestDarkTitleBar calls: the platform's setter from load on. Tests put their own in its place.
