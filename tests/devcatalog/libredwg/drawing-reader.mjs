@@ -9,15 +9,18 @@ const closedFlag = 512;
 // Header variables that the library knows but does not convert by itself.
 const furtherVariables = [
   'CMLSCALE', 'DIMFRAC', 'FACETRES', 'FLAGS', 'ISOLINES', 'PELLIPSE', 'SPLFRAME', 'STYLESHEET', 'TEXTQLTY',
-  'TSTACKALIGN', 'TSTACKSIZE',
+  'TSTACKALIGN', 'TSTACKSIZE', 'unit1_name', 'unit1_ratio', 'unit2_name', 'unit2_ratio', 'unit3_name',
+  'unit3_ratio', 'unit4_name', 'unit4_ratio', 'unknown_8', 'unknown_9', 'unknown_54', 'unknown_55', 'unknown_56',
+  'unknown_57',
 ];
 const referenceVariables = [
   'APPID_CONTROL_OBJECT', 'BLOCK_CONTROL_OBJECT', 'BLOCK_RECORD_MSPACE', 'BLOCK_RECORD_PSPACE', 'CELTYPE', 'CLAYER',
   'CMLSTYLE', 'DICTIONARY_ACAD_GROUP', 'DICTIONARY_ACAD_MLINESTYLE', 'DICTIONARY_LAYOUT', 'DICTIONARY_NAMED_OBJECT',
-  'DICTIONARY_PLOTSETTINGS', 'DICTIONARY_PLOTSTYLENAME', 'DIMLDRBLK', 'DIMSTYLE', 'DIMSTYLE_CONTROL_OBJECT',
-  'DIMTXSTY', 'LAYER_CONTROL_OBJECT', 'LTYPE_BYBLOCK', 'LTYPE_BYLAYER', 'LTYPE_CONTINUOUS', 'LTYPE_CONTROL_OBJECT',
+  'DICTIONARY_PLOTSETTINGS', 'DICTIONARY_PLOTSTYLENAME', 'DIMBLK', 'DIMBLK1', 'DIMBLK2', 'DIMLDRBLK', 'DIMSTYLE',
+  'DIMSTYLE_CONTROL_OBJECT', 'DIMTXSTY', 'LAYER_CONTROL_OBJECT', 'LTYPE_BYBLOCK', 'LTYPE_BYLAYER', 'LTYPE_CONTINUOUS', 'LTYPE_CONTROL_OBJECT',
   'PUCSBASE', 'PUCSNAME', 'PUCSORTHOREF', 'STYLE_CONTROL_OBJECT', 'TEXTSTYLE', 'UCSBASE', 'UCSNAME', 'UCSORTHOREF',
   'UCS_CONTROL_OBJECT', 'VIEW_CONTROL_OBJECT', 'VPORT_CONTROL_OBJECT', 'VX_CONTROL_OBJECT',
+  'VX_TABLE_RECORD',
 ];
 // What the drawing decides; it is compared apart.
 const drawnVariables = ['EXTMIN', 'EXTMAX', 'LIMMIN', 'LIMMAX', 'HANDSEED', 'FINGERPRINTGUID', 'VERSIONGUID'];
@@ -185,8 +188,11 @@ export class DrawingReader {
     return Object.fromEntries(names.map((name) => [name, value(name)]));
   }
 
+  /// A reference as its kind and handle, for example "5.1F".
   #reference(file, variable) {
-    return this.#library.dwg_ref_get_absref(this.#library.dwg_dynapi_header_data(file, variable));
+    const reference = this.#library.dwg_dynapi_header_data(file, variable);
+    const { code, value } = this.#library.dwg_ref_get_handle_object(reference);
+    return `${code}.${value.toString(16).toUpperCase()}`;
   }
 
   /// How many objects of each type there are, entities of the drawing left out.

@@ -79,7 +79,7 @@ export function intendedDrawing(drawing, sameInEveryDrawing) {
     limits: extents ?? emptyLimits,
     viewShowsAll: true,
     objectCount: objectsOfAnEmptyDrawing + drawing.entities.length,
-    nextHandle: firstEntityHandle + drawing.entities.length,
+    nextHandle: `0.${(firstEntityHandle + drawing.entities.length).toString(16).toUpperCase()}`,
     sameInEveryDrawing,
   };
 }
