@@ -52,7 +52,7 @@ public:
     /// BT: no thickness. BE: the extrusion of everything flat, (0, 0, 1).
     void noThickness() { bit(true); }
     void flatExtrusion() { bit(true); }
-    /// CMC: a colour of the AutoCAD Color Index; 0 by block, 256 by layer.
+    /// CMC: a number of the colour index (ACI); 0 by block, 256 by layer.
     void colour(int index) { bitShort(index); }
     /// T: text in the file's code page, at most 65535 bytes.
     void text(std::string_view encoded);

@@ -16,7 +16,7 @@ void writeClass(BitWriter& data, DwgObjectType type, std::string_view className,
     constexpr int isObject = 0x1F3; // not an entity
     data.bitShort(static_cast<int>(type));
     data.bitShort(0); // nothing is allowed with its proxies
-    data.text("ObjectDBX Classes");
+    data.text("Drawing classes");
     data.text(className);
     data.text(dxfName);
     data.bit(false); // was not a proxy

@@ -11,7 +11,7 @@ namespace devcatalog
 struct DwgLayerStyle {
     /// UTF-8, 1 to 255 characters; control characters and any of <>/\":;?*|,=` are not allowed.
     std::string name;
-    /// AutoCAD Color Index, 1 to 255.
+    /// A number of the format's colour index (ACI), 1 to 255.
     int colour = 7;
     /// Hundredths of a millimetre; one of the widths that the format knows, such as 18, 25, 35 or 50.
     int lineweight = 25;

@@ -16,14 +16,13 @@ namespace devcatalog
 /// draw ARC entities wrongly and take a closing arc for straight. Extents, limits and the view follow from
 /// the geometry. Equal drawings give equal bytes: dates are fixed and GUIDs come from the content.
 ///
-/// @param drawing its coordinates may reach 1e9 cm; at most a million points in all. No entities give a
-/// valid, empty file.
+/// @param drawing within 1e9 cm of its origin; a polyline has 2 to 1000 vertices, the whole at most a million
+/// points. A drawing without entities gives a valid file.
+/// @param styles the layers; their names differ from one another and from "0", whatever the letter case.
 /// @return the file's bytes.
-/// @throws std::invalid_argument naming what is wrong: a coordinate or bulge that is not finite or too large,
-/// a radius
-///         that is not positive, a polyline of less than 2 or more than 1000 vertices, too many points, a
-///         layer name that is empty, too long, has a forbidden character or occurs twice (letter case
-///         ignored; "0" is taken), an unknown colour or lineweight.
+/// @throws std::invalid_argument naming what is wrong: a coordinate, radius or bulge that is not finite or
+/// too large, a radius that is not positive, too few or too many points, a layer name, colour or line width
+/// that is not allowed.
 std::string writeDwg(const Drawing& drawing, const DwgLayerStyles& styles = standardLayerStyles());
 
 } // namespace devcatalog
