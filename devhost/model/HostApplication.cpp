@@ -96,6 +96,8 @@ void HostApplication::closeActiveDocument()
 
 void HostApplication::activate(const HostDocument& document)
 {
+    if (&document == activeDocument().get())
+        return;
     m_view.cancelPrompt();
     m_activeDocument = m_documents.find([&](const auto& candidate) { return &candidate == &document; });
     emit changes().documentsChanged();

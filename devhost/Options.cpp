@@ -1,0 +1,81 @@
+#include "devhost/Options.h"
+
+#include <QCommandLineParser>
+
+namespace devhost
+{
+
+namespace
+{
+
+const char defaultTourFolder[] = "tour";
+
+/// The folder after --tour can be left out, which the parser has no means for.
+QStringList withTourFolder(QStringList arguments)
+{
+    const int tour = arguments.indexOf("--tour");
+    if (tour < 0)
+        return arguments;
+    const bool hasFolder = tour + 1 < arguments.size() && !arguments.at(tour + 1).startsWith('-');
+    arguments[tour] = "--tour=" + (hasFolder ? arguments.takeAt(tour + 1) : QString(defaultTourFolder));
+    return arguments;
+}
+
+void addOptions(QCommandLineParser& parser, const QString& defaultLibrary)
+{
+    parser.setApplicationDescription("Development host: loads the add-in library as Plotvane does.");
+    parser.addHelpOption();
+    parser.addOptions({
+        {"library", "Add-in library to load.", "file", defaultLibrary},
+        {"language", "Number of the language that the host reports; 2 is English, 1 German.", "number", "2"},
+        {"theme", "Colour theme: light or dark.", "theme", "light"},
+        {"web-help", "Help opens on the web."},
+        {"catalog", "Catalog service: embedded starts one in this process, none starts none.", "which",
+         "embedded"},
+        {"ca", "PEM file of a certificate authority to trust for the catalog service.", "file"},
+        {"tour", "Plays the whole road by itself and saves screenshots in the folder DIR.", "DIR"},
+        {"account", "Account that the tour logs in with, instead of the embedded catalog's.",
+         "user:password"},
+        {"term", "What the tour searches for.", "text", "bolt"},
+    });
+}
+
+} // namespace
+
+Options parseOptions(const QStringList& arguments, const QString& defaultLibrary, QString* error)
+{
+    QCommandLineParser parser;
+    addOptions(parser, defaultLibrary);
+    parser.process(withTourFolder(arguments));
+
+    Options options;
+    options.library = parser.value("library");
+    options.caFile = parser.value("ca");
+    options.tour = parser.isSet("tour");
+    options.tourFolder = parser.value("tour");
+    options.searchTerm = parser.value("term");
+    const QString account = parser.value("account");
+    options.accountUser = account.section(':', 0, 0);
+    options.accountPassword = account.section(':', 1);
+    options.embeddedCatalog = parser.value("catalog") == "embedded";
+    options.settings.darkTheme = parser.value("theme") == "dark";
+    options.settings.webHelp = parser.isSet("web-help");
+    bool isNumber = false;
+    options.settings.language = parser.value("language").toInt(&isNumber);
+
+    if (!parser.positionalArguments().isEmpty())
+        *error = QString("Not understood: %1").arg(parser.positionalArguments().join(' '));
+    else if (!isNumber)
+        *error = "--language takes a number.";
+    else if (!QStringList{"light", "dark"}.contains(parser.value("theme")))
+        *error = "--theme takes light or dark.";
+    else if (!QStringList{"embedded", "none"}.contains(parser.value("catalog")))
+        *error = "--catalog takes embedded or none.";
+    else if (parser.isSet("account") && !account.contains(':'))
+        *error = "--account takes user:password.";
+    else if (options.library.isEmpty())
+        *error = "--library is missing: this program was built without the add-in.";
+    return options;
+}
+
+} // namespace devhost

@@ -1,0 +1,69 @@
+#include "devhost/AddInSession.h"
+#include "devhost/EmbeddedCatalog.h"
+#include "devhost/Options.h"
+#include "devhost/tour/Tour.h"
+#include "devhost/window/MainWindow.h"
+
+#include <QApplication>
+#include <QSslConfiguration>
+#include <QTextStream>
+
+namespace
+{
+
+int fail(const QString& problem)
+{
+    QTextStream(stderr) << problem << '\n';
+    return 2;
+}
+
+/// Trusts the file's certificate authority in all of the process's TLS connections. @return whether it has
+/// one.
+bool trust(const QString& caFile)
+{
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    const bool added = configuration.addCaCertificates(caFile);
+    QSslConfiguration::setDefaultConfiguration(configuration);
+    return added;
+}
+
+int runWindow(const devhost::Options& options)
+{
+    devhost::MainWindow window(options.settings);
+    window.show();
+    devhost::AddInSession session(options.library, window);
+    session.start();
+    if (options.tour)
+        return devhost::Tour(window, options).run() ? 0 : 1;
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName("Plotvane Development Host");
+
+    QString error;
+    devhost::Options options =
+        devhost::parseOptions(QApplication::arguments(), DEVHOST_DEFAULT_LIBRARY, &error);
+    if (!error.isEmpty())
+        return fail(error);
+    if (options.accountUser.isEmpty()) {
+        options.accountUser = devhost::EmbeddedCatalog::accountUser();
+        options.accountPassword = devhost::EmbeddedCatalog::accountPassword();
+    }
+    if (!options.caFile.isEmpty() && !trust(options.caFile))
+        return fail(QString("--ca: there is no certificate in %1").arg(options.caFile));
+
+    devhost::EmbeddedCatalog catalog;
+    if (options.embeddedCatalog) {
+        if (!catalog.start())
+            return fail(catalog.errorString());
+        trust(catalog.caFile());
+    }
+    return runWindow(options);
+}

@@ -1,0 +1,33 @@
+#include "devhost/window/JournalPanel.h"
+
+#include "devhost/model/Journal.h"
+
+#include <QFontDatabase>
+#include <QPlainTextEdit>
+
+namespace devhost
+{
+
+namespace
+{
+
+constexpr int shownLines = 2000;
+
+} // namespace
+
+JournalPanel::JournalPanel(const Journal& journal, QWidget* parent)
+    : QDockWidget("SDK Calls", parent), m_text(new QPlainTextEdit(this))
+{
+    setObjectName("journalPanel");
+    m_text->setObjectName("journalText");
+    m_text->setReadOnly(true);
+    m_text->setMaximumBlockCount(shownLines);
+    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_text->setFrameShape(QFrame::NoFrame);
+    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_text->setPlainText(journal.lines().join('\n'));
+    connect(&journal, &Journal::added, m_text, &QPlainTextEdit::appendPlainText);
+    setWidget(m_text);
+}
+
+} // namespace devhost
