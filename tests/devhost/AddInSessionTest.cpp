@@ -1,0 +1,140 @@
+#include "devhost/AddInSession.h"
+#include "devhost/Options.h"
+#include "devhost/window/CommandLine.h"
+#include "devhost/window/MainWindow.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QAction>
+#include <QtTest>
+
+#include <memory>
+
+using devhost::AddInLibrary;
+using devhost::AddInSession;
+using devhost::MainWindow;
+using devhost::Options;
+
+class AddInSessionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
+    void cleanup() { m_warnings.reset(); }
+
+    void libraryComesAndGoes();
+    void unusableLibraries();
+    void choicesTakeEffectAtTheNextConnect();
+    void optionsAreRead();
+    void wrongOptionsAreNamed_data();
+    void wrongOptionsAreNamed();
+
+private:
+    std::unique_ptr<test::FatalWarnings> m_warnings;
+};
+
+void AddInSessionTest::libraryComesAndGoes()
+{
+    AddInLibrary library(STANDIN_LIBRARY);
+    QVERIFY(!library.isMapped());
+    QVERIFY2(library.load(), qPrintable(library.errorString()));
+    QVERIFY(library.isMapped());
+    QCOMPARE(library.identifier(), QString("STAND-IN"));
+    QVERIFY(library.unload());
+    QVERIFY(!library.isMapped());
+    QVERIFY(library.load()); // And once more.
+}
+
+void AddInSessionTest::unusableLibraries()
+{
+    AddInLibrary missing("no-such-library");
+    QVERIFY(!missing.load());
+    QVERIFY(missing.errorString().contains("no-such-library"));
+
+    AddInLibrary foreign(FOREIGN_LIBRARY);
+    QVERIFY(!foreign.load());
+    QVERIFY2(foreign.errorString().contains("no entry point"), qPrintable(foreign.errorString()));
+    QVERIFY(!foreign.isMapped());
+
+    MainWindow window({});
+    AddInSession session("no-such-library", window);
+    QVERIFY(!session.start());
+    QVERIFY(window.commandLine().history().last().startsWith("No add-in: "));
+}
+
+void AddInSessionTest::choicesTakeEffectAtTheNextConnect()
+{
+    MainWindow window({});
+    AddInSession session(STANDIN_LIBRARY, window);
+    QVERIFY(session.start());
+    QCOMPARE(window.commandLine().history().last(), QString("Add-in STAND-IN connected."));
+
+    window.findChild<QAction*>("language6")->trigger();
+    window.findChild<QAction*>("darkTheme")->trigger();
+    window.findChild<QAction*>("webHelp")->trigger();
+    QCOMPARE(window.host().settings().language, 2);
+    QVERIFY(!window.host().settings().webHelp);
+
+    window.host().journal().clear();
+    window.findChild<QAction*>("reconnect")->trigger();
+    QCOMPARE(window.host().journal().lines(),
+             (QStringList{R"(RemoveUserInterface("STAND-IN"))", "GetLanguage()"}));
+    QCOMPARE(window.host().settings().language, 6);
+    QVERIFY(window.host().settings().darkTheme);
+    QVERIFY(window.host().settings().webHelp);
+
+    window.host().journal().clear();
+    QVERIFY(session.stop());
+    QCOMPARE(window.host().journal().lines(), QStringList{R"(RemoveUserInterface("STAND-IN"))"});
+}
+
+void AddInSessionTest::optionsAreRead()
+{
+    QString error;
+    const Options none = devhost::parseOptions({"devhost"}, "default.so", &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(none.library, QString("default.so"));
+    QVERIFY(none.embeddedCatalog && !none.tour && !none.settings.darkTheme && !none.settings.webHelp);
+    QCOMPARE(none.settings.language, 2);
+
+    const Options all = devhost::parseOptions(
+        {"devhost", "--library", "other.so", "--language", "1", "--theme", "dark", "--web-help", "--catalog",
+         "none", "--ca", "ca.pem", "--tour", "shots", "--account", "me:with:colon", "--term", "hex bolt"},
+        "default.so", &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(all.library, QString("other.so"));
+    QCOMPARE(all.settings.language, 1);
+    QVERIFY(all.settings.darkTheme && all.settings.webHelp && !all.embeddedCatalog && all.tour);
+    QCOMPARE(all.caFile, QString("ca.pem"));
+    QCOMPARE(all.tourFolder, QString("shots"));
+    QCOMPARE(all.accountUser, QString("me"));
+    QCOMPARE(all.accountPassword, QString("with:colon"));
+    QCOMPARE(all.searchTerm, QString("hex bolt"));
+
+    const Options tour =
+        devhost::parseOptions({"devhost", "--tour", "--theme", "dark"}, "default.so", &error);
+    QVERIFY(tour.tour && tour.settings.darkTheme && !tour.tourFolder.isEmpty());
+}
+
+void AddInSessionTest::wrongOptionsAreNamed_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("language") << QStringList{"--language", "German"} << "--language";
+    QTest::newRow("theme") << QStringList{"--theme", "blue"} << "--theme";
+    QTest::newRow("catalog") << QStringList{"--catalog", "remote"} << "--catalog";
+    QTest::newRow("account") << QStringList{"--account", "me"} << "--account";
+    QTest::newRow("positional") << QStringList{"part.dwg"} << "part.dwg";
+}
+
+void AddInSessionTest::wrongOptionsAreNamed()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, named);
+    QString error;
+    devhost::parseOptions(QStringList{"devhost"} + arguments, "default.so", &error);
+    QVERIFY2(error.contains(named), qPrintable(error));
+}
+
+QTEST_MAIN(AddInSessionTest)
+#include "AddInSessionTest.moc"

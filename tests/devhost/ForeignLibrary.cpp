@@ -1,0 +1,5 @@
+// A library without an add-in's entry points.
+extern "C" int answerOfAForeignLibrary()
+{
+    return 42;
+}
