@@ -1,7 +1,7 @@
 // Reads DWG files with LibreDWG and reduces them to what we compare.
 
 import { Dwg_File_Type, LibreDwg } from '@mlightcad/libredwg-web';
-import { canonicalPolyline } from './intended-drawing.mjs';
+import { canonicalPolyline, segmentsOf } from './intended-drawing.mjs';
 import { decodedAgain } from './windows-1252.mjs';
 
 const closedFlag = 512;
@@ -35,14 +35,10 @@ function flat({ x, y, z = 0 }) {
 function polyline({ layer, flag, vertices }) {
   const points = vertices.map(flat);
   const bulges = vertices.map((vertex) => vertex.bulge);
-  const flaggedClosed = (flag & closedFlag) !== 0;
-  const returns = points.length > 2 && points[0].every((value, axis) => value === points.at(-1)[axis]);
   if (bulges.at(-1) !== 0) {
     throw new Error('a polyline closes with an arc, which some readers draw straight');
   }
-  const ends = flaggedClosed ? [...points.slice(1), points[0]] : points.slice(1);
-  const segments = ends.map((to, index) => ({ from: points[index], to, bulge: bulges[index] }));
-  return canonicalPolyline(layer, flaggedClosed || returns, segments);
+  return canonicalPolyline(layer, segmentsOf({ points, bulges, closed: (flag & closedFlag) !== 0 }));
 }
 
 function shape(entity) {

@@ -6,19 +6,22 @@ const objectsOfAnEmptyDrawing = 39;
 const firstEntityHandle = 0x35;
 const emptyLimits = { min: [0, 0], max: [12, 9] };
 
-function segmentsOf(entity) {
-  const points = entity.closed ? [...entity.points, entity.points[0]] : entity.points;
-  return entity.bulges.map((bulge, index) => ({ from: points[index], to: points[index + 1], bulge }));
+/// The segments of a polyline, the one that closes it included.
+export function segmentsOf({ points, bulges, closed }) {
+  const ends = closed ? [...points.slice(1), points[0]] : points.slice(1);
+  return ends.map((to, index) => ({ from: points[index], to, bulge: bulges[index] }));
 }
 
-/// A closed run of segments may begin anywhere: here, with the one whose text sorts first.
-export function canonicalPolyline(layer, closed, segments) {
-  if (!closed) {
-    return { kind: 'polyline', layer, closed, segments };
+/// A run of segments that returns to its start is closed, however it is written, and may begin anywhere: here, with
+/// the segment whose text sorts first.
+export function canonicalPolyline(layer, segments) {
+  const returns = segments.length > 1 && segments[0].from.every((value, axis) => value === segments.at(-1).to[axis]);
+  if (!returns) {
+    return { kind: 'polyline', layer, closed: false, segments };
   }
   const texts = segments.map((segment) => JSON.stringify(segment));
   const first = texts.indexOf([...texts].sort()[0]);
-  return { kind: 'polyline', layer, closed, segments: [...segments.slice(first), ...segments.slice(0, first)] };
+  return { kind: 'polyline', layer, closed: true, segments: [...segments.slice(first), ...segments.slice(0, first)] };
 }
 
 /// The points of an arc that can lie farthest out: its ends, and where it crosses its circle's axes.
@@ -73,7 +76,7 @@ export function intendedDrawing(drawing, sameInEveryDrawing) {
   return {
     title: inCodePage(drawing.title).slice(0, 255),
     entities: drawing.entities.map((entity) =>
-      entity.kind === 'polyline' ? canonicalPolyline(entity.layer, entity.closed, segmentsOf(entity)) : entity
+      entity.kind === 'polyline' ? canonicalPolyline(entity.layer, segmentsOf(entity)) : entity
     ),
     extents,
     limits: extents ?? emptyLimits,
