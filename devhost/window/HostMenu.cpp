@@ -36,6 +36,7 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
     : QMenu("H&ost", parent), m_settings(settings)
 {
     setObjectName("hostMenu");
+    setToolTipsVisible(true);
     addLanguages();
     addThemes();
 
@@ -51,6 +52,10 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
     reconnect->setToolTip("Disconnects the add-in and connects it with what is chosen here");
     connect(reconnect, &QAction::triggered, this, &HostMenu::reconnectChosen);
     addSeparator();
+    QAction* gallery = addAction("&Styled Widgets…");
+    gallery->setObjectName("gallery");
+    gallery->setToolTip("Shows standard widgets in the add-in's dark style sheet");
+    connect(gallery, &QAction::triggered, this, &HostMenu::galleryChosen);
 }
 
 void HostMenu::addLanguages()

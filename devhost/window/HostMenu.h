@@ -22,6 +22,7 @@ public:
 signals:
     void darkThemeChosen(bool dark);
     void reconnectChosen();
+    void galleryChosen();
 
 private:
     void addLanguages();

@@ -1,18 +1,21 @@
 #include "devhost/window/MainWindow.h"
 
 #include "devhost/model/DraftingInterface.h"
+#include "devhost/window/CommandIcons.h"
 #include "devhost/window/CommandLine.h"
 #include "devhost/window/DrawingArea.h"
 #include "devhost/window/HostMenu.h"
 #include "devhost/window/HostMenuBar.h"
 #include "devhost/window/JournalPanel.h"
 #include "devhost/window/Ribbon.h"
+#include "devhost/window/WidgetGallery.h"
 #include "devhost/window/WindowTheme.h"
 #include "devhost/window/WindowView.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
@@ -32,6 +35,7 @@ namespace
 
 constexpr QSize initialSize(1280, 800);
 constexpr int commandLineHeight = 110;
+const char addInStyleSheet[] = ":/3DPH/Resource/PV3DPartHarborDarkMode.qss"; // In the add-in's bundle.
 
 } // namespace
 
@@ -50,7 +54,7 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
 {
     initializeIcons();
     setObjectName("mainWindow");
-    resize(initialSize);
+    resize(initialSize.boundedTo(screen()->availableSize()));
     m_host->settings() = settings;
     addDraftingInterface(*m_host);
     createLayout();
@@ -93,7 +97,6 @@ void MainWindow::createLayout()
     m_documentTabs->setObjectName("documentTabs");
     m_documentTabs->setDocumentMode(true);
     m_documentTabs->setExpanding(false);
-    m_documentTabs->setTabsClosable(true);
     auto* centre = new QWidget;
     auto* layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -161,6 +164,7 @@ void MainWindow::connectParts()
     connect(m_ribbon, &Ribbon::userCommandChosen, this, runUserCommand);
     connect(m_hostMenu, &HostMenu::darkThemeChosen, this, &MainWindow::applyTheme);
     connect(m_hostMenu, &HostMenu::reconnectChosen, this, &MainWindow::reconnectRequested);
+    connect(m_hostMenu, &HostMenu::galleryChosen, this, &MainWindow::showGallery);
     connect(m_gridButton, &QToolButton::clicked, this, &MainWindow::toggleGrid);
 
     connect(m_commandLine, &CommandLine::submitted, this, &MainWindow::takeText);
@@ -170,10 +174,6 @@ void MainWindow::connectParts()
     connect(m_documentTabs, &QTabBar::tabBarClicked, this, [this](int index) {
         if (index >= 0)
             m_host->activate(*m_host->documents().objects().at(static_cast<std::size_t>(index)));
-    });
-    connect(m_documentTabs, &QTabBar::tabCloseRequested, this, [this](int index) {
-        m_host->activate(*m_host->documents().objects().at(static_cast<std::size_t>(index)));
-        m_host->closeActiveDocument();
     });
 }
 
@@ -226,6 +226,7 @@ void MainWindow::applyTheme(bool dark)
     m_drawingArea->setDark(dark);
     showMenus(); // Icons have the colour of the text.
     showRibbon();
+    showDocuments();
 }
 
 void MainWindow::showMenus()
@@ -247,12 +248,28 @@ void MainWindow::showDocuments()
     const auto active = m_host->activeDocument();
     for (const auto& document : m_host->documents().objects()) {
         const int index = m_documentTabs->addTab(document->name());
+        m_documentTabs->setTabButton(index, QTabBar::RightSide, createCloseButton(*document));
         if (document == active)
             m_documentTabs->setCurrentIndex(index);
     }
     m_drawingArea->setDocument(active);
     setWindowTitle(active ? QString("Plotvane Development Host - [%1]").arg(active->name())
                           : QString("Plotvane Development Host"));
+}
+
+QWidget* MainWindow::createCloseButton(const HostDocument& document)
+{
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setIcon(commandIcon("CLOSE", palette().color(QPalette::WindowText)));
+    button->setIconSize({12, 12});
+    button->setToolTip(QString("Close %1").arg(document.name()));
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, &document] { // The tab goes with the drawing.
+        m_host->activate(document);
+        m_host->closeActiveDocument();
+    });
+    return button;
 }
 
 void MainWindow::showCursor(const QPointF& model)
@@ -264,6 +281,13 @@ void MainWindow::toggleGrid()
 {
     m_drawingArea->setGridVisible(!m_drawingArea->isGridVisible());
     m_gridButton->setChecked(m_drawingArea->isGridVisible());
+}
+
+void MainWindow::showGallery()
+{
+    auto* gallery = new WidgetGallery(addInStyleSheet, this);
+    gallery->setAttribute(Qt::WA_DeleteOnClose);
+    gallery->show();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

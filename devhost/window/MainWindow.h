@@ -62,8 +62,10 @@ private:
     void showMenus();
     void showRibbon();
     void showDocuments();
+    QWidget* createCloseButton(const HostDocument& document);
     void showCursor(const QPointF& model);
     void toggleGrid();
+    void showGallery();
     bool isShownCommand(const QString& command) const;
     void printCommands();
 

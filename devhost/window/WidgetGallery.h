@@ -1,21 +1,27 @@
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 
-class QString;
+class QFormLayout;
 
-/// Shows every standard widget in its main states, so that a style sheet can be judged by eye.
-///
-/// The message boxes are embedded: they are children of the gallery and look as they do on their own.
-class WidgetGallery : public QWidget
+namespace devhost
+{
+
+/// Standard widgets, enabled and disabled side by side, in a style sheet: shows whether the sheet covers
+/// them.
+class WidgetGallery final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// @param parent owner of the gallery, or null for a window of its own.
-    explicit WidgetGallery(QWidget* parent = nullptr);
+    /// @param styleSheetPath file or resource of the style sheet; without one the widgets are as they are.
+    explicit WidgetGallery(const QString& styleSheetPath, QWidget* parent = nullptr);
 
-    /// Gives the gallery and everything in it this style sheet; its menus and tool tips follow.
-    /// @param text the sheet itself, not a path; an empty text restores the application's look.
-    void applyStyleSheet(const QString& text);
+private:
+    QWidget* createColumn(const QString& title, bool enabled);
+    void addButtons(QFormLayout& form);
+    void addInputs(QFormLayout& form);
+    void addViews(QFormLayout& form);
 };
+
+} // namespace devhost

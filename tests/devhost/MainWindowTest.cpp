@@ -407,7 +407,8 @@ void MainWindowTest::drawingsOpenSwitchAndClose()
     QCOMPARE(blocks().size(), std::size_t(1));
     QCOMPARE(tabs->currentIndex(), 0);
 
-    type("CLOSE");
+    qobject_cast<QToolButton*>(tabs->tabButton(1, QTabBar::RightSide))->click();
+    QCOMPARE(tabs->tabText(0), QString("Drawing1"));
     type("CLOSE");
     QCOMPARE(tabs->count(), 0);
     QVERIFY(m_window->drawingArea().document() == nullptr);
@@ -446,7 +447,9 @@ void MainWindowTest::wheelZoomsAroundTheCursorAndMiddleButtonPans()
                      .arg(area.toModel(corner).x(), 0, 'f', 4)
                      .arg(area.toModel(corner).y(), 0, 'f', 4));
 
-    for (int i = 0; i < 200; ++i) // To the limit, where painting has to end as well.
+    const QPointF centre = area.toModel(area.rect().center());
+    place(m_file, [&] { type(QString("%1,%2").arg(centre.x()).arg(centre.y())); });
+    for (int i = 0; i < 200; ++i) // To the limit, where painting dashes has to end as well.
         area.zoomIn();
     QVERIFY(!area.grab().isNull());
     for (int i = 0; i < 400; ++i)
