@@ -39,7 +39,7 @@ bool beginsWith(std::string_view text, std::string_view beginning)
 std::string fileStem(const Part& part)
 {
     constexpr std::size_t longest = 60;
-    constexpr std::string_view safe = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-";
+    constexpr std::string_view safe = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
     std::string stem;
     for (const char character : part.name) {
         if (safe.find(character) != std::string_view::npos) {

@@ -1,5 +1,6 @@
 #include "devcatalog/ServiceHost.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 #include <string_view>
@@ -19,12 +20,7 @@ bool consistsOf(std::string_view text, std::string_view further)
         return alphanumeric.find(character) != std::string_view::npos ||
                further.find(character) != std::string_view::npos;
     };
-    for (const char character : text) {
-        if (!belongs(character)) {
-            return false;
-        }
-    }
-    return !text.empty();
+    return !text.empty() && std::all_of(text.begin(), text.end(), belongs);
 }
 
 /// @return 0 when the text is no port.
@@ -41,19 +37,19 @@ int parsePort(std::string_view text)
 ServiceHost::ServiceHost(std::string text) : m_text(std::move(text))
 {
     const std::string_view whole = m_text;
-    const bool bracketed = !whole.empty() && whole.front() == '[';
-    const std::size_t nameEnd = bracketed ? whole.find(']') : whole.find(':');
-    const std::size_t nameBegin = bracketed ? 1 : 0;
-    m_name = whole.substr(nameBegin, nameEnd == std::string_view::npos ? nameEnd : nameEnd - nameBegin);
-
-    std::string_view rest = nameEnd == std::string_view::npos ? "" : whole.substr(nameEnd);
-    if (bracketed && !rest.empty()) {
-        rest.remove_prefix(1);
+    const bool isBracketed = !whole.empty() && whole.front() == '[';
+    const std::size_t nameEnd = std::min(whole.find(isBracketed ? ']' : ':'), whole.size());
+    m_name = whole.substr(0, nameEnd);
+    std::string_view rest = whole.substr(nameEnd);
+    if (isBracketed) {
+        m_name.erase(0, 1);
+        rest.remove_prefix(std::min<std::size_t>(1, rest.size()));
     }
+    const bool isClosed = !isBracketed || nameEnd < whole.size();
     if (!rest.empty()) {
         m_port = rest.front() == ':' ? parsePort(rest.substr(1)) : 0;
     }
-    if (!consistsOf(m_name, bracketed ? ":" : ".-") || m_port == 0) {
+    if (!isClosed || !consistsOf(m_name, isBracketed ? ":" : ".-") || m_port == 0) {
         throw std::invalid_argument("'" + m_text + "' is no service host; it must read host or host:port.");
     }
 }

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QPair>
+#include <QSslConfiguration>
+#include <QString>
+#include <QVector>
+
+namespace test
+{
+
+/// A posted request as it goes over the wire. A test takes a right one and changes what it wants.
+struct SoapRequest {
+    QByteArray path;
+    QVector<QPair<QByteArray, QByteArray>> headers; ///< Content-Length is added
+    QByteArray body;
+
+    void setHeader(const QByteArray& name, const QByteArray& value);
+    void removeHeader(const QByteArray& name);
+    QByteArray toHttp() const;
+};
+
+struct HttpAnswer {
+    int status = 0; ///< 0 when none came
+    QByteArray contentType;
+    QByteArray body;
+
+    /// @return the text of the first element of that name; null when there is none.
+    QString text(const QString& element) const;
+};
+
+/// Talks to the development catalog on this machine, one connection a request, as its clients do.
+class CatalogClient
+{
+public:
+    /// @param caFile in PEM form.
+    CatalogClient(int port, const QString& caFile);
+
+    HttpAnswer get(const QString& path);
+    HttpAnswer post(const SoapRequest& request) const;
+
+    /// Sends bytes as they are; ends when the server has closed the connection.
+    QByteArray exchange(const QByteArray& bytes) const;
+
+    QString address(const QString& path) const;
+
+    const QSslConfiguration& tls() const { return m_tls; }
+
+private:
+    int m_port;
+    QSslConfiguration m_tls;
+    QNetworkAccessManager m_manager;
+};
+
+} // namespace test
