@@ -9,7 +9,7 @@ struct ServiceOperation {
     const char* templateName;  ///< Envelope template in the bundle, below ":/3DPH/".
     const char* documentName;  ///< Name of the request's document.
     const QString& endpoint;   ///< Address it is posted to.
-    const char* resultElement; ///< First element of this name in the reply is read.
+    const char* resultElement; ///< What the reply is read for: the first element of this name, or all.
 };
 
 // The operations that are sent. (ModelDetail.xml, GetModelDetail, is in the bundle and has no sender.)

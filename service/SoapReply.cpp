@@ -7,8 +7,18 @@
 #include <QFile>
 #include <QNetworkReply>
 
+namespace
+{
+
+QByteArray body(QNetworkReply* reply)
+{
+    return reply->isReadable() ? reply->readAll() : QByteArray(); // an aborted one is closed
+}
+
+} // namespace
+
 SoapReply::SoapReply(QNetworkReply* reply)
-    : m_text(QString::fromUtf8(reply->readAll())), m_document(QLatin1String("output"))
+    : m_text(QString::fromUtf8(body(reply))), m_document(QLatin1String("output"))
 {
     releaseReply(reply);
 }

@@ -10,7 +10,8 @@ class QNetworkReply;
 class SoapReply
 {
 public:
-    /// Reads the whole body as UTF-8 and arranges the release of reply and network manager.
+    /// Reads the whole body as UTF-8, nothing of one that was ended for its length, and arranges the release
+    /// of reply and network manager.
     explicit SoapReply(QNetworkReply* reply);
 
     const QString& text() const { return m_text; }

@@ -1,7 +1,9 @@
 #include "service/SoapRequest.h"
 
 #include "common/MessageBoxes.h"
+#include "service/ReplyLimit.h"
 #include "service/ServiceAddress.h"
+#include "service/XmlGuard.h"
 
 #include <QDomDocument>
 #include <QFile>
@@ -23,6 +25,11 @@ QNetworkRequest soapHeaders(const ServiceOperation& operation)
     return request;
 }
 
+QString templatePath(const ServiceOperation& operation)
+{
+    return QLatin1String(":/3DPH/") + operation.templateName;
+}
+
 void fill(const QDomDocument& document, std::initializer_list<SoapValue> values)
 {
     for (const SoapValue& value : values)
@@ -34,28 +41,33 @@ void fill(const QDomDocument& document, std::initializer_list<SoapValue> values)
 
 } // namespace
 
+QByteArray soapRequestBody(const ServiceOperation& operation, std::initializer_list<SoapValue> values)
+{
+    QFile file(templatePath(operation));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    QDomDocument document(QLatin1String(operation.documentName));
+    document.setContent(file.readAll());
+    fill(document, values);
+    return document.toByteArray(1);
+}
+
 QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializer_list<SoapValue> values,
                                QObject* asker, const char* replySlot)
 {
     const QNetworkRequest request = soapHeaders(operation);
-
-    QFile file(QLatin1String(":/3DPH/") + operation.templateName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        showCannotOpenBox(file.fileName());
+    const QByteArray body = soapRequestBody(operation, values);
+    if (body.isEmpty()) {
+        showCannotOpenBox(templatePath(operation));
         return nullptr;
     }
-    QDomDocument document(QLatin1String(operation.documentName));
-    document.setContent(file.readAll());
-    file.close();
-    fill(document, values);
-    if (document.isNull())
-        return nullptr;
 
     // No parent: it must outlive the asker's own children while a reply is being delivered. Asker and manager
     // still go together, by the toolkit's code alone, which is there after the add-in has been unloaded.
     auto* manager = new QNetworkAccessManager;
-    QNetworkReply* reply = manager->post(request, document.toByteArray(1));
+    QNetworkReply* reply = manager->post(request, body);
     QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, replySlot);
     QObject::connect(asker, SIGNAL(destroyed()), manager, SLOT(deleteLater()));
+    new ReplyLimit(reply, MaximumXmlLength, asker);
     return reply;
 }

@@ -2,6 +2,7 @@
 
 #include "service/ServiceOperations.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <initializer_list>
@@ -15,10 +16,17 @@ struct SoapValue {
     QString text;
 };
 
+/// Fills an operation's template.
+/// @param operation whose template.
+/// @param values the elements to fill, in order.
+/// @return the envelope to post, indented by one space per level; empty when the template cannot be opened.
+QByteArray soapRequestBody(const ServiceOperation& operation, std::initializer_list<SoapValue> values);
+
 /// Fills an operation's template and posts it.
 ///
 /// The reply comes through the event loop, however the request ends. Its slot makes a SoapReply of it, which
-/// releases reply and network manager; if the asker is destroyed before that, both go with it.
+/// releases reply and network manager; if the asker is destroyed before that, both go with it. A reply that
+/// brings more than MaximumXmlLength bytes is ended there.
 /// @param operation what to send.
 /// @param values the elements to fill, in order.
 /// @param asker receives the reply; not owned.

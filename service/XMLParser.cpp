@@ -7,6 +7,8 @@
 
 #include <QDebug>
 #include <QMessageBox>
+#include <QTextCodec>
+#include <QXmlStreamReader>
 
 namespace
 {
@@ -17,14 +19,24 @@ constexpr int DescriptionField = 6;
 constexpr int ImageField = 7;
 constexpr int SupplierField = 16;
 
-QString childText(const QDomNode& element, int position)
+QString textOf(const QDomNode& element)
 {
-    return element.childNodes().item(position).firstChild().nodeValue();
+    return element.firstChild().nodeValue();
 }
 
 QString withoutLeadingBlank(const QString& text)
 {
     return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
+}
+
+/// A file's text in the encoding that its byte order mark or its declaration names.
+QString decode(const QByteArray& xml)
+{
+    QXmlStreamReader reader(xml);
+    reader.readNext();
+    QTextCodec* declared = QTextCodec::codecForName(reader.documentEncoding().toLatin1());
+    QTextCodec* fallback = declared != nullptr ? declared : QTextCodec::codecForName("UTF-8");
+    return QTextCodec::codecForUtfText(xml, fallback)->toUnicode(xml);
 }
 
 } // namespace
@@ -33,7 +45,7 @@ XMLParser::XMLParser(const QString& fileName)
     : m_fileName(fileName), m_file(std::make_unique<QFile>(fileName))
 {
     if (m_file->open(QIODevice::ReadOnly | QIODevice::Text)) {
-        setContent(QString::fromUtf8(m_file->readAll()));
+        setContent(decode(m_file->readAll()));
         m_file->close();
         return;
     }
@@ -51,11 +63,7 @@ void XMLParser::setContent(const QString& xml)
 
 int XMLParser::GetActualItemCount() const
 {
-    return m_document.elementsByTagName(QLatin1String("ActualItemCount"))
-        .item(0)
-        .firstChild()
-        .nodeValue()
-        .toInt();
+    return textOf(m_document.elementsByTagName(QLatin1String("ActualItemCount")).item(0)).toInt();
 }
 
 QStringList XMLParser::GetSearchItemNames() const
@@ -100,11 +108,11 @@ SearchResults XMLParser::GetSearchResults(int limit) const
     const QDomNodeList items = m_document.elementsByTagName(QLatin1String(SearchOperation.resultElement));
     const int count = qMin(limit, items.count());
     for (int i = 0; i < count; ++i) {
-        const QDomNode item = items.item(i);
-        results.imageUrls.append(ServiceBaseUrl + childText(item, ImageField));
-        results.supplierNames.append(childText(item, SupplierField));
-        results.modelNames.append(withoutLeadingBlank(childText(item, NameField)));
-        results.descriptions.append(childText(item, DescriptionField));
+        const QDomNodeList fields = items.item(i).childNodes();
+        results.imageUrls.append(ServiceBaseUrl + textOf(fields.item(ImageField)));
+        results.supplierNames.append(textOf(fields.item(SupplierField)));
+        results.modelNames.append(withoutLeadingBlank(textOf(fields.item(NameField))));
+        results.descriptions.append(textOf(fields.item(DescriptionField)));
     }
     return results;
 }
@@ -137,6 +145,6 @@ QStringList XMLParser::childTexts(const char* element, int position) const
     QStringList texts;
     const QDomNodeList elements = m_document.elementsByTagName(QLatin1String(element));
     for (int i = 0; i < elements.count(); ++i)
-        texts.append(childText(elements.item(i), position));
+        texts.append(textOf(elements.item(i).childNodes().item(position)));
     return texts;
 }

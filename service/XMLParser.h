@@ -7,8 +7,6 @@
 
 #include <memory>
 
-class QDomNodeList;
-
 /// What a results page shows, read in one pass; a hit is the same index into the four lists.
 struct SearchResults {
     QStringList imageUrls;
