@@ -1,7 +1,6 @@
 #include "panel/DownloadedFile.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QUrl>
 
 int g_downloadCounter = 0;
@@ -15,11 +14,6 @@ DownloadedFile::~DownloadedFile()
 {
     if (m_file.isOpen())
         m_file.remove(); // closes it first
-}
-
-QString DownloadedFile::name() const
-{
-    return QFileInfo(m_file).fileName();
 }
 
 QString fileNameOf(const QString& address)

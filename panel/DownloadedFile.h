@@ -23,7 +23,8 @@ public:
     void write(const QByteArray& bytes) { m_file.write(bytes); }
     /// Puts everything written so far where other readers of the file see it.
     void flush() { m_file.flush(); }
-    QString name() const;
+    /// @return the file's absolute path.
+    QString path() const { return m_file.fileName(); }
 
 private:
     QFile m_file;

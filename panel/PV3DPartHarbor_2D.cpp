@@ -3,6 +3,7 @@
 #include "common/MessageBoxes.h"
 #include "panel/PartHarbor_2D.h"
 #include "panel/QtCategoryButton.h"
+#include "panel/SectionFrame.h"
 #include "panel/SectionTree.h"
 #include "service/SessionValues.h"
 #include "ui_PV3DPartHarbor_2D.h"
@@ -46,7 +47,7 @@ void PV3DPartHarbor_2D::buildPanel()
 
 void PV3DPartHarbor_2D::buildSearchRow()
 {
-    QFrame* frame = createSectionFrame(m_form->PH_2DTabPage);
+    auto* frame = new SectionFrame(m_form->PH_2DTabPage);
     auto* grid = new QGridLayout(frame);
     grid->setContentsMargins(5, 3, 5, 3);
     grid->setVerticalSpacing(0);
@@ -66,8 +67,9 @@ void PV3DPartHarbor_2D::buildSearchRow()
     m_searchButton->setMinimumHeight(25);
     m_searchButton->setIcon(QIcon(QLatin1String(":/3DPH/Resource/search.svg")));
     grid->addWidget(m_searchButton, 0, 1, 1, 129);
+    grid->setColumnStretch(0, 1); // keeps the button at the line's end at any width
 
-    setSectionContent(m_form->PH_2DTabPage, m_searchItem, frame);
+    setSectionContent(m_searchItem, frame);
 }
 
 void PV3DPartHarbor_2D::CategoryButtonPressed(int id)

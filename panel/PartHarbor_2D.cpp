@@ -4,6 +4,7 @@
 #include "common/MessageBoxes.h"
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PageButtonGroup.h"
+#include "panel/RowHeights.h"
 #include "panel/TableItem.h"
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
@@ -34,6 +35,7 @@ PartHarbor_2D::PartHarbor_2D(pvApplication_c* application, QWidget* parent)
       m_pageButtons(std::make_unique<PageButtonGroup>())
 {
     m_form->setupUi(this);
+    m_rowHeights = new RowHeights(m_form->tableWidget);
     setUpBackButton();
     setUpPageButtons();
     m_parser = std::make_unique<XMLParser>();
@@ -149,8 +151,7 @@ void PartHarbor_2D::addRow(int row)
     item->setRowIndex(row);
     item->setCategory(m_categories[row]);
     if (row < m_form->tableWidget->rowCount()) {
-        // Rows may grow with the table but not shrink below their content.
-        m_form->tableWidget->verticalHeader()->setMinimumSectionSize(item->minimumSizeHint().height());
+        m_rowHeights->watch(item);
         m_form->tableWidget->setCellWidget(row, 0, item);
     } else {
         item->hide(); // it has no cell, and would show up in the page's corner

@@ -14,6 +14,7 @@ class PV3DPartHarbor_2D;
 class QAbstractButton;
 class QGridLayout;
 class QNetworkReply;
+class RowHeights;
 class TableItem;
 class pvApplication_c;
 
@@ -84,4 +85,5 @@ private:
     QGridLayout* m_parentLayout;
     std::unique_ptr<PageButtonGroup> m_pageButtons;
     QString m_releasedText;
+    RowHeights* m_rowHeights = nullptr;
 };

@@ -1,13 +1,16 @@
 #include "panel/PreviewUI.h"
 
-#include "common/HostString.h"
 #include "common/MessageBoxes.h"
-#include "panel/BlockPlacement.h"
+#include "panel/BlockInsertion.h"
 #include "panel/ClickableLabel.h"
 #include "panel/DownloadedFile.h"
 #include "panel/DrawingViews.h"
+#include "panel/InputParameters.h"
 #include "panel/PartHarbor_2D.h"
+#include "panel/PlacementQueue.h"
 #include "panel/QtCategoryButton.h"
+#include "panel/RowHeights.h"
+#include "panel/SectionFrame.h"
 #include "panel/SectionTree.h"
 #include "panel/TableItem.h"
 #include "service/ReplyRelease.h"
@@ -18,20 +21,12 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QTableWidget>
-
-#include <pvInterface/pvApplication_c.h>
-#include <pvInterface/pvCommandMessage_c.h>
-#include <pvInterface/pvDocument_c.h>
-#include <pvInterface/pvInterfacePtr.h>
-#include <pvInterface/pvModel_c.h>
-#include <pvInterface/pvSketchManager_c.h>
 
 namespace
 {
@@ -54,36 +49,12 @@ QLabel* createCaption(const char* text)
     return caption;
 }
 
-/// Where a block goes and how, preset to the drawing's origin in its own size.
-struct Placement {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-    double scaleX = 1.0;
-    double scaleY = 1.0;
-    double scaleZ = 1.0;
-    double rotation = 0.0;
-};
-
-pvSketchManager_c* sketchManagerOf(pvDocument_c* document)
+/// A drawing comes from a web site: an address of another kind, such as a file's, fetches nothing.
+QUrl webAddress(const QString& address)
 {
-    pvModel_c* model = nullptr;
-    document->GetModel(&model);
-    pvSketchManager_c* manager = nullptr;
-    if (model != nullptr)
-        model->GetSketchManager(&manager);
-    return manager;
-}
-
-/// @return whether the user has placed the block.
-bool promptForPlacement(pvCommandMessage_c* message, const pvString& file, Placement* at)
-{
-    constexpr auto accepted = static_cast<pvPromptResultType_e>(1);
-    pvPromptResultType_e result{};
-    if (message != nullptr)
-        message->PromptForBlockInsertion(file, true, 1.0, 1.0, 1.0, true, 0.0, &at->x, &at->y, &at->z,
-                                         &at->scaleX, &at->scaleY, &at->scaleZ, &at->rotation, &result);
-    return result == accepted;
+    const QUrl url(address);
+    const bool web = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    return web ? url : QUrl();
 }
 
 } // namespace
@@ -128,7 +99,7 @@ void PreviewUI::buildConfigureSection()
     m_sectionButtons->addButton(section.header, m_sectionItems.size());
     m_sectionItems.append(section.item);
 
-    QFrame* frame = createSectionFrame(m_form->preview_page);
+    auto* frame = new SectionFrame(m_form->preview_page);
     auto* grid = new QGridLayout(frame);
     grid->setVerticalSpacing(0);
 
@@ -143,11 +114,13 @@ void PreviewUI::buildConfigureSection()
     ConfigValueLabel = new QLabel(m_configName);
     ConfigValueLabel->setFrameShape(QFrame::Box);
     ConfigValueLabel->setFrameShadow(QFrame::Sunken);
+    ConfigValueLabel->setTextFormat(Qt::PlainText);
+    ConfigValueLabel->setWordWrap(true);
     addToColumn(grid, 3, ConfigValueLabel);
     buildConfigTable();
     grid->addWidget(m_configTable, 4, 0, 1, ColumnSpan);
 
-    setSectionContent(m_form->preview_page, section.item, frame);
+    setSectionContent(section.item, frame);
 }
 
 void PreviewUI::buildConfigTable()
@@ -159,6 +132,7 @@ void PreviewUI::buildConfigTable()
     m_configTable->setSelectionMode(QAbstractItemView::NoSelection);
     m_configTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_configTable->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_configTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it is as high as its row
 }
 
 void PreviewUI::buildPreviewSection()
@@ -167,15 +141,17 @@ void PreviewUI::buildPreviewSection()
     m_sectionButtons->addButton(section.header, m_sectionItems.size());
     m_sectionItems.append(section.item);
 
-    QFrame* frame = createSectionFrame(m_form->preview_page);
+    auto* frame = new SectionFrame(m_form->preview_page);
     auto* grid = new QGridLayout(frame);
     grid->setVerticalSpacing(0);
     m_preview_label = new ClickableLabel(frame, Qt::WindowFlags());
     m_preview_label->setMinimumHeight(200);
+    m_preview_label->setStyleSheet(QLatin1String("margin: 0px;")); // the frame's would distort the picture
     m_preview_label->setAccessibleName(QLatin1String("Preview: click to download the drawing"));
     grid->addWidget(m_preview_label, 0, 0, 1, ColumnSpan);
 
-    setSectionContent(m_form->preview_page, section.item, frame);
+    setSectionContent(section.item, frame);
+    frame->fillTree();
 }
 
 void PreviewUI::setModel(const QString& supplierName, const QString& modelName)
@@ -186,16 +162,21 @@ void PreviewUI::setModel(const QString& supplierName, const QString& modelName)
 
 void PreviewUI::showRow(TableItem* row)
 {
+    auto* heights = new RowHeights(m_configTable);
+    heights->watch(row);
     m_configTable->setCellWidget(0, 0, row);
 }
 
 void PreviewUI::showPreview(const QPixmap& picture)
 {
-    if (picture.isNull())
+    if (picture.isNull()) {
         m_preview_label->clear();
-    else
-        m_preview_label->setPixmap(
-            picture.scaled(m_preview_label->width(), m_preview_label->height(), Qt::KeepAspectRatio));
+    } else {
+        const qreal ratio = m_preview_label->devicePixelRatioF();
+        QPixmap scaled = picture.scaled(m_preview_label->size() * ratio, Qt::KeepAspectRatio);
+        scaled.setDevicePixelRatio(ratio);
+        m_preview_label->setPixmap(scaled);
+    }
     m_preview_label->setScaledContents(true);
     m_preview_label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -258,16 +239,7 @@ void PreviewUI::ConfigParamData(QNetworkReply* reply)
         return;
     m_inputParameters =
         answer.document().elementsByTagName(QLatin1String(GetConfigParamsOperation.resultElement));
-    const QString type = QLatin1String("xsi:type");
-    for (int i = 0; i < m_inputParameters.count(); ++i) {
-        QDomElement parameter = m_inputParameters.item(i).toElement();
-        parameter.removeAttribute(type);
-        parameter.setAttribute(type, QLatin1String("InputParameter"));
-        QDomElement name = parameter.firstChildElement();
-        QDomElement value = name.nextSiblingElement();
-        name.setAttribute(type, QLatin1String("Parameter"));
-        value.setAttribute(type, QLatin1String("ParameterValue"));
-    }
+    setParameterTypes(m_inputParameters);
 }
 
 void PreviewUI::switchcall(const QString& text)
@@ -320,7 +292,7 @@ void PreviewUI::startDownload(const QString& address)
         QFile::remove(fileName);
     m_downloadFile = std::make_unique<DownloadedFile>(numberedFileName(fileName, g_downloadCounter));
     if (m_downloadFile->isOpen()) {
-        m_downloadReply = manager->get(QNetworkRequest(QUrl(address)));
+        m_downloadReply = manager->get(QNetworkRequest(webAddress(address)));
         connect(m_downloadReply, SIGNAL(readyRead()), this, SLOT(httpReadyRead()));
         connect(m_downloadReply, SIGNAL(finished()), this, SLOT(httpDownloadFinished()));
     } else {
@@ -351,26 +323,8 @@ void PreviewUI::promptForInsertion()
     if (!file)
         return;
     file->flush(); // the host reads it by its path
-    m_insertPath = QDir::currentPath() + QLatin1Char('/') + file->name();
-
-    pvDocument_c* document = nullptr;
-    pvCommandMessage_c* message = nullptr;
-    if (m_application != nullptr) {
-        m_application->GetActiveDocument(&document);
-        m_application->GetCommandMessage(&message);
-    }
-    if (document == nullptr)
-        return;
-    // A reference of our own: the drawing may be closed while the prompt is open.
-    const pvInterfacePtr<pvSketchManager_c> sketchManager(sketchManagerOf(document));
-
-    const pvString path = toPVString(m_insertPath);
-    const QPointer<PreviewUI> self(this);
-    Placement at;
-    if (!promptForPlacement(message, path, &at) || self.isNull() || !sketchManager)
-        return;
-    pvBlockInstance_c* block = nullptr;
-    sketchManager->InsertBlock2(path, at.x, at.y, at.z, at.scaleX, at.scaleY, at.scaleZ, at.rotation, &block);
+    m_insertPath = file->path();
+    promptAndInsertBlock(m_application, m_insertPath, this);
 }
 
 void PreviewUI::dropDownload()

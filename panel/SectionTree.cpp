@@ -1,10 +1,10 @@
 #include "panel/SectionTree.h"
 
 #include "panel/QtCategoryButton.h"
+#include "panel/SectionFrame.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QFrame>
 #include <QIcon>
 #include <QTreeWidget>
 
@@ -24,6 +24,8 @@ void prepareSectionTree(QTreeWidget* tree)
     tree->setRootIsDecorated(false);
     tree->setIndentation(0);
     tree->setAutoFillBackground(true);
+    // Contents may be higher than the tree.
+    tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 }
 
 Section addSection(QTreeWidget* tree, const QString& title, const QRect& geometry)
@@ -45,21 +47,12 @@ Section addSection(QTreeWidget* tree, const QString& title, const QRect& geometr
     return {item, header};
 }
 
-QFrame* createSectionFrame(QTreeWidget* tree)
-{
-    auto* frame = new QFrame(tree);
-    frame->setStyleSheet(QLatin1String("margin-bottom: 5px;"));
-    frame->setFrameShape(QFrame::Box);
-    frame->setFrameShadow(QFrame::Sunken);
-    return frame;
-}
-
-void setSectionContent(QTreeWidget* tree, QTreeWidgetItem* section, QFrame* frame)
+void setSectionContent(QTreeWidgetItem* section, SectionFrame* frame)
 {
     auto* content = new QTreeWidgetItem;
     content->setDisabled(true);
     section->addChild(content);
-    tree->setItemWidget(content, 0, frame);
+    frame->showIn(content);
 }
 
 void toggleSection(const QList<QTreeWidgetItem*>& items, const QButtonGroup& headers, int id)

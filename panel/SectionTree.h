@@ -4,12 +4,11 @@
 #include <QString>
 
 class QButtonGroup;
-class QFrame;
-class QGridLayout;
 class QRect;
 class QtCategoryButton;
 class QTreeWidget;
 class QTreeWidgetItem;
+class SectionFrame;
 
 // The collapsible sections that the main panel and the detail page are made of: a tree whose top-level items
 // are headed by buttons and whose only child each shows a framed content.
@@ -27,11 +26,8 @@ void prepareSectionTree(QTreeWidget* tree);
 /// @param geometry the header button's initial geometry.
 Section addSection(QTreeWidget* tree, const QString& title, const QRect& geometry);
 
-/// Makes the frame for a section's content, owned by the tree.
-QFrame* createSectionFrame(QTreeWidget* tree);
-
-/// Puts a frame under a section's header.
-void setSectionContent(QTreeWidget* tree, QTreeWidgetItem* section, QFrame* frame);
+/// Puts a frame of the section's tree under the section's header.
+void setSectionContent(QTreeWidgetItem* section, SectionFrame* frame);
 
 /// Expands a collapsed section and collapses an expanded one, and gives its header the icon of the new state.
 /// @param items the top-level items, indexed by button id.

@@ -37,7 +37,7 @@ void TableItem::setModelName(const QString& name)
 
 void TableItem::setDescription(const QString& description)
 {
-    m_form->descvaluelabel->setText(description);
+    m_form->descvaluelabel->setPlainText(description);
 }
 
 void TableItem::setRowIndex(int index)

@@ -1,4 +1,4 @@
-#include "panel/BlockPlacement.h"
+#include "panel/PlacementQueue.h"
 
 #include "panel/PreviewUI.h"
 
