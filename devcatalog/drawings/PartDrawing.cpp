@@ -1,10 +1,13 @@
 #include "devcatalog/drawings/PartDrawing.h"
 
-#include <QByteArray>
+#include "devcatalog/drawings/families/PartSolid.h"
+#include "devcatalog/drawings/views/ShadedPicture.h"
+#include "devcatalog/drawings/views/ViewDrawing.h"
+
+#include <QBuffer>
 
 #include <algorithm>
-#include <cmath>
-#include <stdexcept>
+#include <map>
 
 namespace devcatalog
 {
@@ -12,88 +15,152 @@ namespace devcatalog
 namespace
 {
 
-constexpr double pi = 3.14159265358979323846;
+constexpr double centimetresPerMillimetre = 0.1;
 
-double centimetres(const Configuration& configuration, std::string_view name)
+struct Bounds {
+    Point2 lower;
+    Point2 upper;
+};
+
+void extend(Bounds& bounds, const Point2& point)
 {
-    const auto found = std::find_if(configuration.parameters.begin(), configuration.parameters.end(),
-                                    [name](const Parameter& each) { return each.name == name; });
-    if (found == configuration.parameters.end())
-        throw std::invalid_argument("no parameter " + std::string(name));
-    return QByteArray::fromStdString(found->value).toDouble() / 10;
+    bounds.lower = {std::min(bounds.lower.x, point.x), std::min(bounds.lower.y, point.y)};
+    bounds.upper = {std::max(bounds.upper.x, point.x), std::max(bounds.upper.y, point.y)};
 }
 
-Entity polygon(std::initializer_list<Point2> points)
+/// Bounds that are good enough to place views beside one another: arcs count as their chords.
+Bounds boundsOf(const std::vector<Entity>& entities)
 {
-    Polyline line;
-    for (const Point2& point : points)
-        line.vertices.push_back({point, 0});
-    line.closed = true;
-    return {LineKind::Outline, line};
-}
-
-Entity rectangle(double left, double bottom, double right, double top)
-{
-    return polygon({{left, bottom}, {right, bottom}, {right, top}, {left, top}});
-}
-
-Entity hexagon(double acrossFlats)
-{
-    const double corner = acrossFlats / std::sqrt(3.0);
-    Polyline line;
-    for (int i = 0; i < 6; ++i)
-        line.vertices.push_back({{corner * std::cos(i * pi / 3), corner * std::sin(i * pi / 3)}, 0});
-    line.closed = true;
-    return {LineKind::Outline, line};
-}
-
-Entity circle(double diameter)
-{
-    return {LineKind::Outline, Circle{{0, 0}, diameter / 2}};
-}
-
-std::vector<Entity> boltFront(const Configuration& configuration)
-{
-    const double corner = centimetres(configuration, "Width across flats") / std::sqrt(3.0);
-    const double radius = centimetres(configuration, "Thread diameter") / 2;
-    return {rectangle(-centimetres(configuration, "Head height"), -corner, 0, corner),
-            rectangle(0, -radius, centimetres(configuration, "Length"), radius)};
-}
-
-std::vector<Entity> roundOrHexagonal(const Configuration& configuration, const char* height, double width)
-{
-    return {rectangle(-width / 2, 0, width / 2, centimetres(configuration, height))};
-}
-
-std::vector<Entity> draw(const std::string& family, const Configuration& configuration, bool top)
-{
-    if (family == "hex-bolt")
-        return boltFront(configuration);
-    if (family == "hex-nut") {
-        const double flats = centimetres(configuration, "Width across flats");
-        if (top)
-            return {hexagon(flats), circle(centimetres(configuration, "Thread diameter"))};
-        return roundOrHexagonal(configuration, "Height", 2 * flats / std::sqrt(3.0));
+    Bounds bounds{{1e300, 1e300}, {-1e300, -1e300}};
+    for (const Entity& entity : entities) {
+        if (const auto* line = std::get_if<LineSegment>(&entity.shape)) {
+            extend(bounds, line->from);
+            extend(bounds, line->to);
+        } else if (const auto* circle = std::get_if<Circle>(&entity.shape)) {
+            extend(bounds, {circle->centre.x - circle->radius, circle->centre.y - circle->radius});
+            extend(bounds, {circle->centre.x + circle->radius, circle->centre.y + circle->radius});
+        } else {
+            for (const PolylineVertex& vertex : std::get<Polyline>(entity.shape).vertices)
+                extend(bounds, vertex.point);
+        }
     }
-    if (family == "washer") {
-        const double outer = centimetres(configuration, "Outer diameter");
-        if (top)
-            return {circle(outer), circle(centimetres(configuration, "Inner diameter"))};
-        return roundOrHexagonal(configuration, "Thickness", outer);
+    return bounds;
+}
+
+/// Moves a shape, then scales it.
+struct Place {
+    Point2 offset;
+    double scale;
+
+    Point2 operator()(const Point2& point) const
+    {
+        return {scale * (point.x + offset.x), scale * (point.y + offset.y)};
     }
-    return {};
+    Shape operator()(const LineSegment& line) const
+    {
+        return LineSegment{(*this)(line.from), (*this)(line.to)};
+    }
+    Shape operator()(const Circle& circle) const
+    {
+        return Circle{(*this)(circle.centre), scale * circle.radius};
+    }
+    Shape operator()(const Polyline& line) const
+    {
+        Polyline placed = line;
+        for (PolylineVertex& vertex : placed.vertices)
+            vertex.point = (*this)(vertex.point);
+        return placed;
+    }
+};
+
+void place(std::vector<Entity>& entities, const Point2& offset, double scale)
+{
+    for (Entity& entity : entities)
+        entity.shape = std::visit(Place{offset, scale}, entity.shape);
+}
+
+Camera cameraFor(Side side)
+{
+    switch (side) {
+    case Side::Top:
+        return Camera::topView();
+    case Side::Left:
+        return Camera::leftView();
+    case Side::Right:
+        return Camera::rightView();
+    case Side::Front:
+        break;
+    }
+    return Camera::frontView();
+}
+
+/// Front, top above it and right side beside it, as in third-angle projection; a picture goes into the
+/// corner.
+std::vector<Entity> arrangedViews(const Solid& solid, bool withPicture)
+{
+    std::vector<Entity> entities = drawView(solid, Camera::frontView());
+    const Bounds front = boundsOf(entities);
+    std::vector<Entity> top = drawView(solid, Camera::topView());
+    const Bounds topBounds = boundsOf(top);
+    std::vector<Entity> right = drawView(solid, Camera::rightView());
+    const Bounds rightBounds = boundsOf(right);
+    const double gap = 0.2 * std::max({front.upper.x - front.lower.x, front.upper.y - front.lower.y,
+                                       rightBounds.upper.x - rightBounds.lower.x});
+    const Point2 corner{front.upper.x + gap, front.upper.y + gap};
+    place(top, {0, corner.y - topBounds.lower.y}, 1);
+    place(right, {corner.x - rightBounds.lower.x, 0}, 1);
+    entities.insert(entities.end(), top.begin(), top.end());
+    entities.insert(entities.end(), right.begin(), right.end());
+    if (withPicture) {
+        std::vector<Entity> picture = drawView(solid, Camera::isometricView());
+        const Bounds bounds = boundsOf(picture);
+        place(picture, {corner.x - bounds.lower.x, corner.y - bounds.lower.y}, 1);
+        entities.insert(entities.end(), picture.begin(), picture.end());
+    }
+    return entities;
+}
+
+std::optional<std::vector<Entity>> draw(const Solid& solid, std::string_view view)
+{
+    using CameraMaker = Camera (*)();
+    static const std::map<std::string_view, CameraMaker> cameras = {
+        {"eDrawingView_FRONT", Camera::frontView},         {"eDrawingView_TOP", Camera::topView},
+        {"eDrawingView_RIGHT", Camera::rightView},         {"eDrawingView_BACK", Camera::backView},
+        {"eDrawingView_BOTTOM", Camera::bottomView},       {"eDrawingView_LEFT", Camera::leftView},
+        {"eDrawingView_ISOMETRIC", Camera::isometricView}, {"eDrawingView_DIMETRIC", Camera::dimetricView},
+        {"eDrawingView_TRIMETRIC", Camera::trimetricView},
+    };
+    const auto camera = cameras.find(view);
+    if (camera != cameras.end())
+        return drawView(solid, camera->second());
+    if (view == "eDrawingView_PREDEFINED")
+        return drawView(solid, cameraFor(solid.telling));
+    if (view == "eDrawingView_MULTI" || view == "eDrawingView_4VIEW")
+        return arrangedViews(solid, view == "eDrawingView_4VIEW");
+    return std::nullopt;
 }
 
 } // namespace
 
 std::optional<Drawing> drawPart(const Part& part, const Configuration& configuration, std::string_view view)
 {
-    const bool top = view == "eDrawingView_TOP";
     const auto& unsupported = part.unsupportedViews;
-    if ((!top && view != "eDrawingView_FRONT") ||
-        std::find(unsupported.begin(), unsupported.end(), view) != unsupported.end())
+    if (std::find(unsupported.begin(), unsupported.end(), view) != unsupported.end())
         return std::nullopt;
-    return Drawing{part.name, draw(part.family, configuration, top)};
+    std::optional<std::vector<Entity>> entities = draw(buildSolid(part.family, configuration), view);
+    if (!entities)
+        return std::nullopt;
+    place(*entities, {}, centimetresPerMillimetre);
+    return Drawing{part.name, std::move(*entities)};
+}
+
+std::string drawThumbnail(const Part& part, int width, int height)
+{
+    const Solid solid = buildSolid(part.family, part.configurations.back());
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    paintSolid(solid, Camera::isometricView(), width, height).save(&buffer, "PNG");
+    return buffer.data().toStdString();
 }
 
 } // namespace devcatalog

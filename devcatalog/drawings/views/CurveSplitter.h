@@ -1,0 +1,56 @@
+#pragma once
+
+#include "devcatalog/drawings/solids/Curve.h"
+#include "devcatalog/drawings/views/Camera.h"
+
+#include <vector>
+
+namespace devcatalog
+{
+
+/// Finds where curves cross or touch one another as seen by a camera: only there an edge can begin or end to
+/// be hidden.
+class CurveSplitter
+{
+public:
+    /// @param curves must outlive the splitter.
+    /// @param tolerance distance at which an end counts as touching.
+    CurveSplitter(const std::vector<Curve>& curves, const Camera& camera, double tolerance);
+
+    /// @return for each curve the parameters in between which nothing crosses it, ascending from 0 to 1.
+    std::vector<std::vector<double>> split();
+
+private:
+    /// Some neighbouring segments and the rectangle around them, to pass over what is far away.
+    struct Stretch {
+        std::size_t first = 0;
+        std::size_t end = 0;
+        Point2 lower;
+        Point2 upper;
+    };
+
+    /// A curve as the camera sees it, in straight segments.
+    struct Flat {
+        std::vector<double> parameters;
+        std::vector<Point2> points;
+        std::vector<Stretch> stretches;
+        Point2 lower;
+        Point2 upper;
+    };
+
+    Flat flatten(const Curve& curve) const;
+    void crossTwo(std::size_t i, std::size_t j);
+    void crossSegments(std::size_t i, std::size_t a, std::size_t j, std::size_t b);
+    void touch(const Point2& end, std::size_t j);
+    bool refineCrossing(std::size_t i, double& s, std::size_t j, double& t) const;
+    Point2 flatPoint(std::size_t i, double t) const;
+    Point2 flatDerivative(std::size_t i, double t) const;
+
+    const std::vector<Curve>& m_curves;
+    Camera m_camera;
+    double m_tolerance;
+    std::vector<Flat> m_flats;
+    std::vector<std::vector<double>> m_splits;
+};
+
+} // namespace devcatalog
