@@ -5,6 +5,7 @@
 #include "devhost/window/MainWindow.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QSslConfiguration>
 #include <QTextStream>
 
@@ -30,6 +31,8 @@ bool trust(const QString& caFile)
 int runWindow(const devhost::Options& options)
 {
     devhost::MainWindow window(options.settings);
+    if (!options.tour) // Its screenshots have one size on every screen.
+        window.resize(window.size().boundedTo(window.screen()->availableSize()));
     window.show();
     devhost::AddInSession session(options.library, window);
     session.start();

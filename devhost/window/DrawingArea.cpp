@@ -15,7 +15,7 @@ namespace devhost
 namespace
 {
 
-const QRectF emptyDrawingView(-5.0, -5.0, 40.0, 25.0); // Drawing units.
+const QRectF emptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Drawing units.
 constexpr double zoomStep = 1.25;
 
 } // namespace
@@ -113,15 +113,16 @@ void DrawingArea::paintDrawing(QPainter& painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& block : m_document->blocks().objects())
         paintBlock(painter, m_view, m_colors, block->geometry(), block->placement());
+    paintAxesSign(painter, size(), m_colors);
+    paintCrosshair(painter);
     if (m_blockAtCursor) {
+        painter.setRenderHint(QPainter::Antialiasing);
         BlockPlacement placement = m_blockAtCursor->placement;
         const QPointF point = toModel(m_cursor.value_or(QRectF(rect()).center()));
         placement.x = point.x();
         placement.y = point.y();
         paintBlock(painter, m_view, m_colors, m_blockAtCursor->geometry, placement);
     }
-    paintAxesSign(painter, size(), m_colors);
-    paintCrosshair(painter);
 }
 
 void DrawingArea::paintCrosshair(QPainter& painter) const

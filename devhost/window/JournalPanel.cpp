@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr int shownLines = 2000;
+constexpr int readableWidth = 340; // Pixels.
 
 } // namespace
 
@@ -22,7 +23,7 @@ JournalPanel::JournalPanel(const Journal& journal, QWidget* parent)
     m_text->setObjectName("journalText");
     m_text->setReadOnly(true);
     m_text->setMaximumBlockCount(shownLines);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_text->setMinimumWidth(readableWidth);
     m_text->setFrameShape(QFrame::NoFrame);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setPlainText(journal.lines().join('\n'));

@@ -15,7 +15,6 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
@@ -54,7 +53,7 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
 {
     initializeIcons();
     setObjectName("mainWindow");
-    resize(initialSize.boundedTo(screen()->availableSize()));
+    resize(initialSize);
     m_host->settings() = settings;
     addDraftingInterface(*m_host);
     createLayout();

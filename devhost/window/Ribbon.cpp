@@ -8,6 +8,8 @@
 #include <QTabBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace devhost
 {
 
@@ -25,7 +27,7 @@ void makeLarge(QToolButton& button)
 {
     button.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button.setIconSize({32, 32});
-    button.setMinimumWidth(58);
+    button.setMinimumWidth(std::max(58, button.sizeHint().width()));
     button.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 }
 

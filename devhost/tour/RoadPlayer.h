@@ -1,0 +1,73 @@
+#pragma once
+
+#include "devhost/tour/TourStep.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+class QMessageBox;
+
+namespace devhost
+{
+
+class MainWindow;
+class Screenshots;
+
+/// Plays a road step by step, prints what was seen, and saves a picture of each step.
+///
+/// A box that a step opens, and the host's prompt, run event loops of their own within that step. So nothing
+/// waits here: a timer, which runs in any event loop, does the next thing that there is to do.
+class RoadPlayer final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive the player.
+    RoadPlayer(MainWindow& window, Screenshots& screenshots);
+
+    /// Plays the road up to the first step without its outcome; then closes what is still open.
+    /// @return whether all outcomes were seen.
+    bool play(const Road& road);
+
+    /// Prints a line of what was seen, numbered as a step. @param isOutcome whether it is what has to be.
+    void report(const QString& name, const Sight& sight);
+
+private:
+    void startStep(int index);
+    bool isPlaying() const;
+    bool isActing() const;
+    void tick();
+    void meet(QMessageBox& box);
+    void judge(const QMessageBox& box);
+    void act();
+    void look();
+    void fail(const QString& seen);
+    void leave();
+    void savePicture(const QString& title) const;
+
+    MainWindow& m_window;
+    Screenshots& m_screenshots;
+    QTimer m_timer;
+    QEventLoop m_loop;
+
+    Road m_road;
+    int m_index = 0;
+    int m_number = 0; // Of the step reported last, counted through all roads.
+    bool m_failed = false;
+
+    // Of the current step:
+    bool m_acted = false;
+    bool m_boxMet = false;
+    bool m_retrying = false;
+    QString m_lastSeen;
+    QElapsedTimer m_sinceStart;
+    QElapsedTimer m_sinceAttempt;
+
+    QPointer<QMessageBox> m_openBox;
+    int m_actionLoopLevel = -1; // Depth of event loops in which an action runs.
+};
+
+} // namespace devhost
