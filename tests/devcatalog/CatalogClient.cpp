@@ -90,13 +90,18 @@ HttpAnswer CatalogClient::post(const SoapRequest& request) const
     return parseAnswer(exchange(request.toHttp()));
 }
 
-QByteArray CatalogClient::exchange(const QByteArray& bytes) const
+QByteArray CatalogClient::exchange(const QByteArray& bytes, qint64* sent) const
 {
     QSslSocket socket;
     socket.setSslConfiguration(m_tls);
     QSignalSpy disconnected(&socket, &QSslSocket::disconnected);
     socket.connectToHostEncrypted("127.0.0.1", static_cast<quint16>(m_port));
     if (socket.waitForEncrypted(patience)) {
+        if (sent) {
+            *sent = 0;
+            QObject::connect(&socket, &QSslSocket::encryptedBytesWritten,
+                             [sent](qint64 count) { *sent += count; });
+        }
         socket.write(bytes);
         if (disconnected.isEmpty()) {
             disconnected.wait(patience);

@@ -41,7 +41,8 @@ public:
     HttpAnswer post(const SoapRequest& request) const;
 
     /// Sends bytes as they are; ends when the server has closed the connection.
-    QByteArray exchange(const QByteArray& bytes) const;
+    /// @param sent takes how many of them had gone out by then; may be null.
+    QByteArray exchange(const QByteArray& bytes, qint64* sent = nullptr) const;
 
     QString address(const QString& path) const;
 
