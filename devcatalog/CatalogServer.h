@@ -61,7 +61,8 @@ public:
     ///         line for a person to read.
     void start();
 
-    /// Answers the requests under way, then ends. Sessions, keys and tokens are forgotten.
+    /// Answers the requests under way, then ends; a client that holds a connection open in silence delays
+    /// this by 5 seconds. Sessions, keys and tokens are forgotten.
     void stop();
 
     /// @return the port that is served; 0 before start.
