@@ -1,5 +1,6 @@
 #include "devcatalog/drawings/PartDrawing.h"
 
+#include "devcatalog/drawings/DrawingExtents.h"
 #include "devcatalog/drawings/families/PartSolid.h"
 #include "devcatalog/drawings/views/ShadedPicture.h"
 #include "devcatalog/drawings/views/ViewDrawing.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <map>
+#include <stdexcept>
 
 namespace devcatalog
 {
@@ -16,36 +18,6 @@ namespace
 {
 
 constexpr double centimetresPerMillimetre = 0.1;
-
-struct Bounds {
-    Point2 lower;
-    Point2 upper;
-};
-
-void extend(Bounds& bounds, const Point2& point)
-{
-    bounds.lower = {std::min(bounds.lower.x, point.x), std::min(bounds.lower.y, point.y)};
-    bounds.upper = {std::max(bounds.upper.x, point.x), std::max(bounds.upper.y, point.y)};
-}
-
-/// Bounds that are good enough to place views beside one another: arcs count as their chords.
-Bounds boundsOf(const std::vector<Entity>& entities)
-{
-    Bounds bounds{{1e300, 1e300}, {-1e300, -1e300}};
-    for (const Entity& entity : entities) {
-        if (const auto* line = std::get_if<LineSegment>(&entity.shape)) {
-            extend(bounds, line->from);
-            extend(bounds, line->to);
-        } else if (const auto* circle = std::get_if<Circle>(&entity.shape)) {
-            extend(bounds, {circle->centre.x - circle->radius, circle->centre.y - circle->radius});
-            extend(bounds, {circle->centre.x + circle->radius, circle->centre.y + circle->radius});
-        } else {
-            for (const PolylineVertex& vertex : std::get<Polyline>(entity.shape).vertices)
-                extend(bounds, vertex.point);
-        }
-    }
-    return bounds;
-}
 
 /// Moves a shape, then scales it.
 struct Place {
@@ -94,27 +66,30 @@ Camera cameraFor(Side side)
     return Camera::frontView();
 }
 
+/// A solid always shows something.
+Extents extentsOfView(const std::vector<Entity>& entities)
+{
+    return extentsOf(entities).value();
+}
+
 /// Front, top above it and right side beside it, as in third-angle projection; a picture goes into the
 /// corner.
 std::vector<Entity> arrangedViews(const Solid& solid, bool withPicture)
 {
     std::vector<Entity> entities = drawView(solid, Camera::frontView());
-    const Bounds front = boundsOf(entities);
     std::vector<Entity> top = drawView(solid, Camera::topView());
-    const Bounds topBounds = boundsOf(top);
     std::vector<Entity> right = drawView(solid, Camera::rightView());
-    const Bounds rightBounds = boundsOf(right);
-    const double gap = 0.2 * std::max({front.upper.x - front.lower.x, front.upper.y - front.lower.y,
-                                       rightBounds.upper.x - rightBounds.lower.x});
-    const Point2 corner{front.upper.x + gap, front.upper.y + gap};
-    place(top, {0, corner.y - topBounds.lower.y}, 1);
-    place(right, {corner.x - rightBounds.lower.x, 0}, 1);
+    const Extents front = extentsOfView(entities);
+    const double gap = 0.2 * std::max({front.width(), front.height(), extentsOfView(right).width()});
+    const Point2 corner{front.max.x + gap, front.max.y + gap};
+    place(top, {0, corner.y - extentsOfView(top).min.y}, 1);
+    place(right, {corner.x - extentsOfView(right).min.x, 0}, 1);
     entities.insert(entities.end(), top.begin(), top.end());
     entities.insert(entities.end(), right.begin(), right.end());
     if (withPicture) {
         std::vector<Entity> picture = drawView(solid, Camera::isometricView());
-        const Bounds bounds = boundsOf(picture);
-        place(picture, {corner.x - bounds.lower.x, corner.y - bounds.lower.y}, 1);
+        const Extents extents = extentsOfView(picture);
+        place(picture, {corner.x - extents.min.x, corner.y - extents.min.y}, 1);
         entities.insert(entities.end(), picture.begin(), picture.end());
     }
     return entities;
@@ -156,6 +131,8 @@ std::optional<Drawing> drawPart(const Part& part, const Configuration& configura
 
 std::string drawThumbnail(const Part& part, int width, int height)
 {
+    if (width < 1 || height < 1 || part.configurations.empty())
+        throw std::invalid_argument("no picture without a size and a configuration");
     const Solid solid = buildSolid(part.family, part.configurations.back());
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);

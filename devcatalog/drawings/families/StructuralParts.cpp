@@ -139,7 +139,7 @@ Solid bridgeHandle(const Dimensions& dimensions)
                                    LineCurve{{-half + bend, 0, middle}, {half - bend, 0, middle}},
                                    ArcCurve{right, bend * zAxis, bend * xAxis, 0, pi / 2},
                                    LineCurve{{half, 0, middle - bend}, {half, 0, foot}}};
-    solid.add<Sweep>(Material::Aluminium, spine, radius);
+    solid.addWithoutHiddenEdges<Sweep>(Material::Aluminium, spine, radius);
     for (const double x : {-half, half}) {
         const double hole = dimensions("Thread diameter") / 2;
         // A disc at the foot, with the threaded hole that the handle is held by.

@@ -19,6 +19,12 @@ Vector3 perpendicularTo(const Vector3& direction)
     return normalized(cross(direction, std::abs(direction.z) < 0.9 ? zAxis : xAxis));
 }
 
+bool seenEndOn(const Curve& piece, const Vector3& toward)
+{
+    return std::holds_alternative<LineCurve>(piece) &&
+           length(cross(normalized(derivativeAt(piece, 0)), toward)) < 1e-9;
+}
+
 std::vector<Vector3> ring(const Vector3& centre, const Vector3& tangent, const Vector3& u, double radius)
 {
     const Frame frame = Frame::at(centre, tangent, u);
@@ -104,8 +110,25 @@ void Sweep::appendCurves(std::vector<Curve>& curves, const Vector3& toward) cons
 {
     curves.insert(curves.end(), m_ends.begin(), m_ends.end());
     for (const Curve& piece : m_spine)
-        for (const double side : {m_radius, -m_radius})
-            appendOutline(curves, piece, side, toward);
+        if (seenEndOn(piece, toward))
+            appendOutlineEndOn(curves, piece, toward);
+        else
+            for (const double side : {1.0, -1.0})
+                appendOutline(curves, piece, side, toward);
+}
+
+/// A straight part that is seen end on looks like its end, in so far as the bar does not bend away in front
+/// of it.
+void Sweep::appendOutlineEndOn(std::vector<Curve>& curves, const Curve& piece, const Vector3& toward) const
+{
+    const Vector3 nearer = pointAt(piece, dot(derivativeAt(piece, 0), toward) > 0 ? 1 : 0);
+    ArcCurve quarter = circleAround(Frame::at(nearer, toward, perpendicularTo(toward)), m_radius, 0);
+    // In quarters, because a bend hides half of it without another curve that tells where.
+    for (int i = 0; i < 4; ++i) {
+        quarter.from = i * pi / 2;
+        quarter.to = (i + 1) * pi / 2;
+        curves.emplace_back(quarter);
+    }
 }
 
 /// The outline on one side of the spine, in the parts that the bar itself does not hide.
@@ -124,7 +147,7 @@ void Sweep::appendOutline(std::vector<Curve>& curves, const Curve& piece, double
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const Vector3 tangent = normalized(derivativeAt(piece, samples[i]));
         const Vector3 across = cross(tangent, toward);
-        const Vector3 normal = (side > 0 ? 1 : -1) * across;
+        const Vector3 normal = side * across;
         const Vector3 bend = curvature(piece, samples, i);
         if (length(across) < 1e-9 || turnsInward(tangent, normalized(normal), bend, toward))
             finish();

@@ -102,11 +102,16 @@ double distance(const Point2& a, const Point2& b)
     return std::hypot(b.x - a.x, b.y - a.y);
 }
 
+/// How far apart the middles of two pieces with the same ends can be when they are the same curve: others
+/// would cross in between, or be well apart.
+double reachOf(const Piece& piece, double tolerance)
+{
+    return tolerance + 0.02 * distance(piece.start, piece.end);
+}
+
 bool looksLike(const Piece& a, const Piece& b, double tolerance)
 {
-    // Pieces that share their ends and nearly share their middle are the same curve: others would cross in
-    // between.
-    if (distance(a.middle, b.middle) > tolerance + 0.02 * distance(a.start, a.end))
+    if (distance(a.middle, b.middle) > reachOf(a, tolerance))
         return false;
     return (distance(a.start, b.start) < tolerance && distance(a.end, b.end) < tolerance) ||
            (distance(a.start, b.end) < tolerance && distance(a.end, b.start) < tolerance);
@@ -122,11 +127,17 @@ void markRepeated(const std::vector<Candidate>& candidates, std::vector<std::vec
         if (!std::holds_alternative<LineCurve>(candidates[i].curve))
             for (Piece& piece : pieces[i])
                 curved.push_back(&piece);
-    std::stable_partition(curved.begin(), curved.end(), [](const Piece* piece) { return !piece->hidden; });
-    for (std::size_t i = 0; i < curved.size(); ++i)
-        for (std::size_t j = i + 1; j < curved.size() && !curved[i]->repeated; ++j)
-            if (looksLike(*curved[i], *curved[j], tolerance))
-                curved[j]->repeated = true;
+    std::stable_sort(curved.begin(), curved.end(),
+                     [](const Piece* a, const Piece* b) { return a->middle.x < b->middle.x; });
+    for (std::size_t i = 0; i < curved.size(); ++i) {
+        Piece& one = *curved[i];
+        const double last = one.middle.x + reachOf(one, tolerance);
+        for (std::size_t j = i + 1; j < curved.size() && curved[j]->middle.x <= last && !one.repeated; ++j) {
+            Piece& other = *curved[j];
+            if (!other.repeated && looksLike(one, other, tolerance))
+                (one.hidden ? one : other).repeated = true;
+        }
+    }
 }
 
 /// Joins what splitting took apart, where the pieces are all seen or all hidden.

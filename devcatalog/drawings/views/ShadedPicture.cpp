@@ -34,7 +34,7 @@ QColor colourOf(Material material)
     case Material::Bronze:
         return {0xb9, 0x84, 0x5a};
     case Material::DarkPlastic:
-        return {0x6a, 0x72, 0x7c};
+        return {0x7c, 0x86, 0x91};
     case Material::LightPlastic:
         return {0xdd, 0xdd, 0xd6};
     case Material::ColouredPlastic:
