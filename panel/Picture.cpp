@@ -7,7 +7,7 @@
 namespace
 {
 
-constexpr qint64 MaximumPixels = 16 * 1000 * 1000;
+constexpr qint64 MaximumPixels = 16'000'000;
 
 } // namespace
 

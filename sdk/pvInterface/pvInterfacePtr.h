@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 /// Owning handle over a host interface object.
 ///
 /// Adopting or receiving an object takes a reference of the handle's own; ending, or taking another object,
@@ -14,12 +16,9 @@ public:
     pvInterfacePtr(const pvInterfacePtr& other) : m_object(other.m_object) { take(); }
     ~pvInterfacePtr() { drop(); }
 
-    pvInterfacePtr& operator=(const pvInterfacePtr& other)
+    pvInterfacePtr& operator=(pvInterfacePtr other)
     {
-        pvInterfacePtr copy(other);
-        T* const previous = m_object;
-        m_object = copy.m_object;
-        copy.m_object = previous;
+        std::swap(m_object, other.m_object);
         return *this;
     }
 
