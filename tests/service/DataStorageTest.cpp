@@ -1,0 +1,150 @@
+#include "service/DataStorage.h"
+#include "service/SessionValues.h"
+#include "tests/service/Envelope.h"
+#include "tests/service/ServiceFixture.h"
+
+#include <QMetaMethod>
+#include <QtTest>
+
+#include <type_traits>
+
+using test::ScriptedReply;
+
+namespace
+{
+
+const QString keyOperation = "GenerateApiKeyByDescription";
+
+QStringList operationsOf(const QVector<test::RecordedRequest>& requests)
+{
+    QStringList operations;
+    for (const test::RecordedRequest& request : requests) {
+        operations.append(request.operation());
+    }
+    return operations;
+}
+
+} // namespace
+
+/// The session: the key from start on, the user's login, and what of both is told to whom.
+class DataStorageTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_fixture = std::make_unique<test::ServiceFixture>(); }
+    void cleanup() { m_fixture.reset(); }
+
+    void interface();
+    void bootstrap();
+    void theLastKeyToArriveStays();
+    void loginBeforeTheKey();
+    void loginsInARow();
+    void debugOutput();
+
+private:
+    void logIn(DataStorage& session, const QString& token);
+
+    std::unique_ptr<test::ServiceFixture> m_fixture;
+};
+
+void DataStorageTest::interface()
+{
+    static_assert(std::is_same_v<decltype(&DataStorage::SetUserId), void (DataStorage::*)(QString)>);
+    static_assert(std::is_same_v<decltype(&DataStorage::SetPassword), void (DataStorage::*)(QString)>);
+    QStringList slotsInOrder;
+    const QMetaObject& meta = DataStorage::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
+        slotsInOrder.append(meta.method(i).methodSignature());
+    }
+    QCOMPARE(slotsInOrder, (QStringList{"ServiceLogin()", "SetSessionID(QNetworkReply*)",
+                                        "GetAPIKey(QNetworkReply*)", "SetUserToken(QNetworkReply*)"}));
+}
+
+void DataStorageTest::bootstrap()
+{
+    m_fixture->scriptSession("session", "key");
+    const DataStorage session;
+    QVERIFY(session.parent() == nullptr);
+    QTRY_COMPARE(ApiKey, QString("key"));
+    QCOMPARE(operationsOf(m_fixture->service().requests()), (QStringList{"ServiceLogin", keyOperation}));
+    QCOMPARE(UserToken, QString());
+    QCOMPARE(m_fixture->boxes().size(), 0);
+}
+
+void DataStorageTest::theLastKeyToArriveStays()
+{
+    test::ScriptedService& service = m_fixture->service();
+    m_fixture->scriptSession("session", {});
+    for (const QString key : {"first", "second", ""}) {
+        service.enqueue(keyOperation, ScriptedReply::result(keyOperation, key).held());
+    }
+    DataStorage first;
+    QTRY_COMPARE(service.heldCount(), 1);
+    DataStorage second;
+    QTRY_COMPARE(service.heldCount(), 2);
+    first.ServiceLogin(); // once more, for the empty key
+    QTRY_COMPARE(service.heldCount(), 3);
+
+    service.release(3);
+    QTRY_COMPARE(ApiKey, QString("second"));
+    service.release(1);
+    QTRY_COMPARE(ApiKey, QString("first"));
+    service.release(5);
+    QTRY_COMPARE(ApiKey, QString());
+}
+
+void DataStorageTest::loginBeforeTheKey()
+{
+    m_fixture->service().setReply("ServiceLogin", ScriptedReply::never());
+    DataStorage session;
+    logIn(session, "token");
+    QCOMPARE(test::Envelope::read(m_fixture->service().requests("UserLogin").at(0).body).parameters,
+             (QStringList{"apiKey=", "userId=user@example.test", "password=secret"}));
+}
+
+/// Whatever the service answers takes the token's place; the box says what the token has become.
+void DataStorageTest::loginsInARow()
+{
+    m_fixture->service().setReply("ServiceLogin", ScriptedReply::never());
+    DataStorage session;
+    for (const QString token : {"token", "other", "", "again"}) {
+        const int before = m_fixture->boxes().size();
+        logIn(session, token);
+        QCOMPARE(UserToken, token);
+        QCOMPARE(m_fixture->boxes().size(), before + 1);
+        const test::SeenMessageBox& box = m_fixture->boxes().last();
+        QCOMPARE(box.text, QString(token.isEmpty() ? "Login is not successful." : "Login is successful."));
+        QCOMPARE(box.title, QString("Message"));
+        QCOMPARE(box.icon, QMessageBox::Information);
+        QCOMPARE(box.buttons, QMessageBox::Ok);
+        QVERIFY(box.flags.testFlag(Qt::MSWindowsFixedSizeDialogHint));
+        QVERIFY(!box.hasParent && box.isModal && !box.quitOnClose);
+    }
+}
+
+/// The two replies of a bootstrap are written, and nothing else: no password, and no token.
+void DataStorageTest::debugOutput()
+{
+    m_fixture->service().setReply("ServiceLogin", ScriptedReply::xml("<one/>"));
+    m_fixture->service().setReply(keyOperation, ScriptedReply::xml("<two/>").held());
+    DataStorage session;
+    QTRY_COMPARE(m_fixture->service().heldCount(), 1);
+    m_fixture->service().releaseAll();
+    logIn(session, "token");
+    QTRY_COMPARE(m_fixture->warnings().debugLines(), (QStringList{"data \"<one/>\"", "data \"<two/>\""}));
+}
+
+void DataStorageTest::logIn(DataStorage& session, const QString& token)
+{
+    const int before = m_fixture->boxes().size();
+    m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", token));
+    session.SetUserId("user@example.test");
+    session.SetPassword("secret");
+    session.UserLogin();
+    QTRY_COMPARE(m_fixture->boxes().size(), before + 1);
+}
+
+QTEST_MAIN(DataStorageTest)
+#include "DataStorageTest.moc"

@@ -1,0 +1,181 @@
+#include "service/XMLParser.h"
+#include "service/XmlGuard.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDomDocument>
+#include <QThread>
+#include <QtTest>
+
+#include <memory>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace
+{
+
+constexpr uint SmallStack = 1024 * 1024; ///< what a thread of a Windows program has, the main one included
+constexpr int Large = 4 * 1000 * 1000;
+
+/// Bytes allocated at the moment; 0 where the platform does not say.
+qint64 allocatedBytes()
+{
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+#else
+    return 0;
+#endif
+}
+
+QString inRoot(const QString& content)
+{
+    return "<r>" + content + "</r>";
+}
+
+/// Elements around one another, @p depth of them with the root.
+QString nested(int depth, const QString& start = "<a>")
+{
+    return inRoot(start.repeated(depth - 1) + QString("</a>").repeated(depth - 1));
+}
+
+/// Copies of @p unit, a large text of them.
+QString many(const QString& unit)
+{
+    return unit.repeated(Large / unit.size());
+}
+
+QString attributes(int count)
+{
+    QString text = "<r";
+    for (int i = 0; i < count; ++i) {
+        text += " a" + QString::number(i) + "='>'";
+    }
+    return text + "/>";
+}
+
+/// Runs in a thread with a small stack, as a host's may be.
+class ParsingThread : public QThread
+{
+public:
+    explicit ParsingThread(const QString& text) : m_text(text) { setStackSize(SmallStack); }
+
+    bool parsed() const { return m_parsed; }
+    bool hasContent() const { return m_hasContent; }
+    qint64 heldBytes() const { return m_heldBytes; }
+
+protected:
+    void run() override
+    {
+        const qint64 before = allocatedBytes();
+        QDomDocument document("output");
+        m_parsed = parseXml(m_text, &document);
+        m_heldBytes = allocatedBytes() - before;
+        m_hasContent = document.hasChildNodes();
+        XMLParser parser;
+        parser.setContent(m_text);
+        parser.GetSearchResults(5);
+        parser.GetSearchItemField1();
+        parser.GetConfigurationNames();
+        XMLParser::documentOf(&parser);
+    }
+
+private:
+    QString m_text;
+    bool m_parsed = false;
+    bool m_hasContent = false;
+    qint64 m_heldBytes = 0;
+};
+
+} // namespace
+
+/// Replies that would be too much for the toolkit's parser, or for the host's memory once they are parsed.
+class HostileRepliesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
+    void cleanup() { m_warnings.reset(); }
+
+    void replies_data();
+    void replies();
+
+private:
+    std::unique_ptr<test::FatalWarnings> m_warnings;
+};
+
+void HostileRepliesTest::replies_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("parsed");
+    const auto parsed = [](const char* name, const QString& text) { QTest::newRow(name) << text << true; };
+    const auto refused = [](const char* name, const QString& text) { QTest::newRow(name) << text << false; };
+
+    parsed("200 levels", nested(200));
+    refused("201 levels", nested(201));
+    refused("40,000 levels", nested(40000));
+    refused("levels with attributes", nested(5000, "<a b='/>' c=\"</a>\">"));
+    refused("levels behind a comment", "<!-- </r> -->" + nested(5000));
+    refused("levels behind a section", "<r><![CDATA[</r>]]>" + nested(5000) + "</r>");
+    refused("levels without end tags", QString("<a>").repeated(Large / 3));
+    parsed("many elements of few levels", inRoot(("<a>" + nested(100) + "</a>").repeated(100)));
+    parsed("what is no tag",
+           inRoot("<!-- " + QString("<a>").repeated(5000) + " --><![CDATA[" + QString("<a>").repeated(5000) +
+                  "]]><?p " + QString("<a>").repeated(5000) + "?><b c=\"" + QString("&lt;a>").repeated(5000) +
+                  "\"/>"));
+
+    parsed("large text", inRoot(many("text ")));
+    parsed("large attribute", "<r a='" + many("text>") + "'/>");
+    parsed("large name", '<' + many("r") + "/>");
+    parsed("long fields", inRoot(many("<Description>as long as texts are here</Description>")));
+    parsed("10,000 attributes", attributes(10000));
+    refused("500,000 attributes", attributes(500000));
+    refused("tiny elements", inRoot(many("<a/>")));
+    refused("tiny elements between texts", inRoot(many("x<a/>")));
+    refused("comments", inRoot(many("<!---->")));
+    refused("instructions", inRoot(many("<?a?>")));
+    refused("attributes of many elements", inRoot(many("<a b='' c='' d=''/>")));
+    refused("unknown entities", inRoot(many("&a;")));
+    refused("longer than anything", inRoot(QString(MaximumXmlLength, 'x')));
+
+    refused("document type", "<!DOCTYPE r>" + inRoot("x"));
+    refused("document type in small letters", "<!doctype r>" + inRoot("x"));
+    refused("entities of entities",
+            "<!DOCTYPE r [<!ENTITY a 'xxxxxxxxxx'><!ENTITY b '&a;&a;&a;&a;'>]>" + inRoot("&b;"));
+    parsed("a document type's look", inRoot("<![CDATA[<!DOCTYPE html>]]>"));
+
+    refused("nothing", QString());
+    refused("white space", many(" \r\n"));
+    refused("no markup", many("text "));
+    refused("brackets", many("<"));
+    refused("a bracket at the end", inRoot("x") + '<');
+    refused("an open comment", "<r><!--" + many(" --"));
+    refused("an open section", "<r><![CDATA[" + many("]] "));
+    refused("an open instruction", "<r><?" + many("? "));
+    refused("an open value", "<r a='" + many("\">"));
+    refused("an open tag", "<r " + many("a "));
+    refused("end tags", many("</a>"));
+    refused("cut in a tag", nested(10).chopped(2));
+    refused("a result, then nonsense", "<r><UserLoginResult>token</UserLoginResult><b></r>");
+    parsed("zero characters", inRoot(QString(1000, QChar(0))));
+    refused("what the parser takes for the end", "<r>" + QString(1000, QChar(0xFFFF)) + "</r>");
+    refused("half characters", many(QChar(0xD83D)));
+    refused("bytes of another encoding", QString::fromUtf8(QByteArray("\xFF\xFE<\0r\0/\0>\0", 10)));
+}
+
+void HostileRepliesTest::replies()
+{
+    QFETCH(QString, text);
+    ParsingThread thread(text);
+    thread.start();
+    QVERIFY(thread.wait(60 * 1000));
+    QTEST(thread.parsed(), "parsed");
+    QCOMPARE(thread.hasContent(), thread.parsed()); // a refused one leaves nothing behind
+    QVERIFY2(thread.heldBytes() <= 20 * text.size() + 10 * 1000 * 1000,
+             qPrintable(QString("%1 bytes for %2 characters").arg(thread.heldBytes()).arg(text.size())));
+}
+
+QTEST_MAIN(HostileRepliesTest)
+#include "HostileRepliesTest.moc"

@@ -1,0 +1,25 @@
+#include "tests/service/ServiceFixture.h"
+
+#include "common/DarkTheme.h"
+#include "service/SessionValues.h"
+
+namespace test
+{
+
+ServiceFixture::ServiceFixture(ScriptedCatalog::Identity identity) : m_catalog(identity)
+{
+    g_darkMode = 0;
+    ApiKey.clear();
+    UserToken.clear();
+    SearchTerm.clear();
+    CurrentPageNumber = "1";
+}
+
+void ServiceFixture::scriptSession(const QString& sessionId, const QString& key)
+{
+    service().setReply("ServiceLogin", ScriptedReply::result("ServiceLogin", sessionId));
+    service().setReply("GenerateApiKeyByDescription",
+                       ScriptedReply::result("GenerateApiKeyByDescription", key));
+}
+
+} // namespace test

@@ -1,0 +1,247 @@
+#include "panel/DrawingViews.h"
+#include "panel/PartHarbor_2D.h"
+#include "panel/PreviewUI.h"
+#include "service/DataStorage.h"
+#include "service/SessionValues.h"
+#include "tests/service/Envelope.h"
+#include "tests/service/ServiceFixture.h"
+
+#include <QFile>
+#include <QGridLayout>
+#include <QResource>
+#include <QtTest>
+
+using test::ScriptedReply;
+
+namespace
+{
+
+const QString contentNamespace = "http://" + test::ScriptedCatalog::host() + "/Content";
+
+struct ExpectedRequest {
+    QString operation;
+    QString path;
+    QStringList parameters;
+};
+
+/// Where the asker gives a value, "%1"; its key, "%2"; its token, "%3"; its drawing view, "%4".
+const QVector<ExpectedRequest> expectedRequests{
+    {"ServiceLogin",
+     "/ContentWS/contentws.asmx",
+     {"catalog=partharbor", "serviceuser=PlotvaneSU", "password=TulipWindowCanvas", "enduser=Plotvane",
+      "debug=false"}},
+    {"GenerateApiKeyByDescription",
+     "/ContentWS/adminws.asmx",
+     {"sessionId=%1", "description=Plotvane session ID1"}},
+    {"UserLogin", "/ContentWS/ExternalWS.asmx", {"apiKey=%2", "userId=%1", "password=%1"}},
+    {"SimpleSearchAcrossCatalogs",
+     "/ContentWS/ExternalWS.asmx",
+     {"apiKey=%2", "searchTerm=%1", "totalLimit=10000", "pageSize=5", "pageNumber=%1", "language=Base"}},
+    {"GetConfigInfo",
+     "/ContentWS/ExternalWS.asmx",
+     {"apiKey=%2", "supplierName=%1", "modelName=%1", "language=Base"}},
+    {"GetConfigParams",
+     "/ContentWS/ExternalWS.asmx",
+     {"apiKey=%2", "supplierName=%1", "modelName=%1", "configName=%1", "language=Base"}},
+    {"GetDownload2D",
+     "/ContentWS/ExternalWS.asmx",
+     {"apiKey=%2", "userToken=%3", "supplierName=%1", "modelName=%1", "configName=%1", "formatName=dwg",
+      "version=R2002", "units=cm", "inputParameters=", "drawingView=%4", "hiddenEdge=eHiddenEdge_UNSPECIFIED",
+      "tangentEdge=eTangentEdge_UNSPECIFIED", "zipOutput=false", "endUser=Plotvane"}},
+};
+
+/// Request line and the headers that the senders set, as they arrived and in that order: the network layer
+/// puts the true length behind the rest. A cookie would show up, too.
+QStringList headOf(const test::RecordedRequest& request)
+{
+    QStringList lines{QString::fromUtf8(request.method + ' ' + request.target)};
+    for (const auto& header : request.headers) {
+        const QString name = QString::fromUtf8(header.first);
+        if (QStringList{"content-type", "content-length", "soapaction", "cookie"}.contains(name.toLower())) {
+            lines.append(name + ": " + QString::fromUtf8(header.second));
+        }
+    }
+    return lines;
+}
+
+ScriptedReply configurationReply(const QString& name)
+{
+    return ScriptedReply::xml("<r><IConfiguration><Name>" + name.toHtmlEscaped().toUtf8() +
+                              "</Name></IConfiguration></r>");
+}
+
+} // namespace
+
+/// What goes over the wire, sent by the add-in's own senders.
+class SoapWireTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_fixture = std::make_unique<test::ServiceFixture>(); }
+    void cleanup() { m_fixture.reset(); }
+
+    void requests_data();
+    void requests();
+    void templates_data();
+    void templates();
+
+private:
+    std::unique_ptr<test::ServiceFixture> m_fixture;
+};
+
+void SoapWireTest::requests_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("drawingView");
+    const auto add = [](const char* name, const QString& value) { QTest::newRow(name) << value << value; };
+    add("plain", "M8 x 40");
+    add("markup", "a<b>&amp;\"c\" 'd' ]]> <!-- </soap:Body>");
+    add("line end, tab, blanks", "  one\n\ttwo ");
+    add("beyond the basic plane",
+        QString::fromUtf8("\xF0\x9F\x94\xA9 \xF0\xA0\x80\x80 \xC3\xA9 \xE4\xB8\xAD"));
+    add("10,000 characters", QString("0123456789").repeated(1000));
+    add("10,000 to be escaped", QString("<&").repeated(5000));
+    add("a view without its blank", "Detailed");
+    QTest::newRow("the detailed view") << " Detailed"
+                                       << "eDrawingView_PREDEFINED";
+    QTest::newRow("empty") << QString() << "eDrawingView_PREDEFINED";
+}
+
+void SoapWireTest::requests()
+{
+    QFETCH(QString, value);
+    QFETCH(QString, drawingView);
+    const QString key = value.isEmpty() ? "key" : value;     // without a key nothing is searched for,
+    const QString token = value.isEmpty() ? "token" : value; // and without a token nothing downloaded
+    test::ScriptedService& service = m_fixture->service();
+    service.setReply("ServiceLogin",
+                     ScriptedReply::result("ServiceLogin", value).withHeader("Set-Cookie", "id=1; Path=/"));
+    service.setReply("GenerateApiKeyByDescription",
+                     ScriptedReply::result("GenerateApiKeyByDescription", key));
+    service.setReply("UserLogin", ScriptedReply::result("UserLogin", token));
+    service.setReply("GetConfigInfo", configurationReply(value));
+    service.setReply("/ContentWS/ExternalWS.asmx", ScriptedReply::never());
+
+    DataStorage session;
+    QTRY_COMPARE(ApiKey, key);
+    session.SetUserId(value);
+    session.SetPassword(value);
+    session.UserLogin();
+    QTRY_COMPARE(m_fixture->boxes().size(), 1);
+    QCOMPARE(UserToken, token);
+
+    QWidget container;
+    new QGridLayout(&container);
+    SearchTerm = value;
+    CurrentPageNumber = value;
+    PartHarbor_2D results(nullptr, &container);
+    results.startSearch();
+    QTRY_COMPARE(service.requests("SimpleSearchAcrossCatalogs").size(), 1);
+    PreviewUI detail(nullptr, &container);
+    detail.setModel(value, value);
+    detail.GetConfigInfo();
+    QTRY_COMPARE(service.requests("GetConfigParams").size(), 1);
+    g_drawingView = value;
+    detail.GetDownloadURL();
+    QTRY_COMPARE(service.requests("GetDownload2D").size(), 1);
+
+    QCOMPARE(service.requests().size(), expectedRequests.size());
+    for (int i = 0; i < expectedRequests.size(); ++i) {
+        const ExpectedRequest& expected = expectedRequests.at(i);
+        const test::RecordedRequest& request = service.requests().at(i);
+        QCOMPARE(headOf(request),
+                 (QStringList{"POST " + expected.path, "Content-Type: text/xml; charset=utf-8",
+                              "SOAPAction: " + contentNamespace + '/' + expected.operation,
+                              QString("Content-Length: %1").arg(request.body.size())}));
+
+        QStringList parameters = expected.parameters;
+        parameters.replaceInStrings("=%1", '=' + value);
+        parameters.replaceInStrings("=%2", '=' + key);
+        parameters.replaceInStrings("=%3", '=' + token);
+        parameters.replaceInStrings("=%4", '=' + drawingView);
+        const auto envelope = test::Envelope::read(request.body);
+        QCOMPARE(envelope.fault, QString());
+        QCOMPARE(envelope.version, QString("1.0"));
+        QCOMPARE(envelope.encoding, QString("utf-8"));
+        QCOMPARE(envelope.prefixes.size(), 3);
+        QCOMPARE(envelope.operation, expected.operation);
+        QCOMPARE(envelope.operationNamespace, contentNamespace);
+        QCOMPARE(envelope.parameters, parameters);
+        if (!value.contains('\n')) {
+            QCOMPARE(test::layoutFault(request.body, 1, "\n"), QString());
+        }
+    }
+}
+
+void SoapWireTest::templates_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<int>("sizeWithoutHost");
+    QTest::addColumn<QStringList>("parameters");
+    QTest::newRow("TokenXMLFile.xml") << "ServiceLogin" << 514 << expectedRequests.at(0).parameters;
+    QTest::newRow("APIKeyXML.xml") << "GenerateApiKeyByDescription" << 445
+                                   << QStringList{"sessionId=string", "description=Plotvane session ID1"};
+    QTest::newRow("Login.xml") << "UserLogin" << 414
+                               << QStringList{"apiKey=string", "userId=string", "password=string"};
+    QTest::newRow("Searchcatalog.xml")
+        << "SimpleSearchAcrossCatalogs" << 558
+        << QStringList{"apiKey=string", "searchTerm=string", "totalLimit=10000",
+                       "pageSize=5",    "pageNumber=int",    "language=Base"};
+    QTest::newRow("ModelDetail.xml") << "GetModelDetail" << 471
+                                     << QStringList{"apiKey=string", "supplierName=string",
+                                                    "modelName=string", "language=Base"};
+    QTest::newRow("ConfigInfo.xml") << "GetConfigInfo" << 469
+                                    << QStringList{"apiKey=string", "supplierName=string", "modelName=string",
+                                                   "language=Base"};
+    QTest::newRow("ConfigParams.xml")
+        << "GetConfigParams" << 512
+        << QStringList{"apiKey=string", "supplierName=string", "modelName=string", "configName=string",
+                       "language=Base"};
+    QTest::newRow("download.xml") << "GetDownload2D" << 898
+                                  << QStringList{"apiKey=string",
+                                                 "userToken=string",
+                                                 "supplierName=string",
+                                                 "modelName=string",
+                                                 "configName=string",
+                                                 "formatName=dwg",
+                                                 "version=string",
+                                                 "units=string",
+                                                 "inputParameters=\n        \n      ",
+                                                 "drawingView=string",
+                                                 "hiddenEdge=eHiddenEdge_UNSPECIFIED",
+                                                 "tangentEdge=eTangentEdge_UNSPECIFIED",
+                                                 "zipOutput=false",
+                                                 "endUser=Plotvane"};
+}
+
+void SoapWireTest::templates()
+{
+    QFETCH(QString, operation);
+    QFETCH(int, sizeWithoutHost);
+    QFETCH(QStringList, parameters);
+    const QString path = QString(":/3DPH/") + QTest::currentDataTag();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+
+    QCOMPARE(bytes.size(), sizeWithoutHost + test::ScriptedCatalog::host().size());
+    QCOMPARE(QResource(path).compressionAlgorithm(), QResource::NoCompression);
+    QVERIFY(bytes.startsWith("<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n<soap:Envelope "));
+    QVERIFY(bytes.endsWith("\r\n</soap:Envelope>"));
+    QCOMPARE(bytes.count('\n'), bytes.count("\r\n"));
+    QCOMPARE(test::layoutFault(bytes, 2, "\r\n"), QString());
+
+    const auto envelope = test::Envelope::read(bytes);
+    QCOMPARE(envelope.fault, QString());
+    QCOMPARE(envelope.prefixes,
+             (QMap<QString, QString>{{"xsi", "http://www.w3.org/2001/XMLSchema-instance"},
+                                     {"xsd", "http://www.w3.org/2001/XMLSchema"},
+                                     {"soap", "http://schemas.xmlsoap.org/soap/envelope/"}}));
+    QCOMPARE(envelope.operation, operation);
+    QCOMPARE(envelope.operationNamespace, contentNamespace);
+    QCOMPARE(envelope.parameters, parameters);
+}
+
+QTEST_MAIN(SoapWireTest)
+#include "SoapWireTest.moc"
