@@ -89,11 +89,13 @@ Part makePart(const Offer& offer, const SizeTable& table, const Size& size)
     return part;
 }
 
-/// Letters that differ only in case, width or the way they are composed compare equal.
+/// Letters that differ only in case, width or the way they are composed compare equal, also where a capital
+/// is written as two letters.
 QString folded(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()))
         .normalized(QString::NormalizationForm_KC)
+        .toUpper()
         .toCaseFolded();
 }
 

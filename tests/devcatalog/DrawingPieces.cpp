@@ -1,0 +1,111 @@
+#include "tests/devcatalog/DrawingPieces.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace devcatalog;
+
+namespace test
+{
+
+bool DrawingPiece::isHorizontal() const
+{
+    return bulge == 0 && std::abs(to.y - from.y) < 1e-9;
+}
+
+bool DrawingPiece::isVertical() const
+{
+    return bulge == 0 && std::abs(to.x - from.x) < 1e-9;
+}
+
+double DrawingPiece::length() const
+{
+    return std::hypot(to.x - from.x, to.y - from.y);
+}
+
+Point2 DrawingPiece::middle() const
+{
+    // An arc's middle lies to the right of its chord, by the bulge times half of it.
+    return {(from.x + to.x) / 2 + bulge * (to.y - from.y) / 2,
+            (from.y + to.y) / 2 - bulge * (to.x - from.x) / 2};
+}
+
+double DrawingPiece::distanceTo(const Point2& point) const
+{
+    // Halved until the pieces are as good as straight.
+    if (std::abs(bulge) > 0.01) {
+        const double half = std::tan(std::atan(bulge) / 2);
+        return std::min(DrawingPiece{kind, from, middle(), half}.distanceTo(point),
+                        DrawingPiece{kind, middle(), to, half}.distanceTo(point));
+    }
+    const Point2 along{to.x - from.x, to.y - from.y};
+    const double squared = along.x * along.x + along.y * along.y;
+    const double fraction = ((point.x - from.x) * along.x + (point.y - from.y) * along.y) / squared;
+    const double nearest = std::clamp(fraction, 0.0, 1.0);
+    return std::hypot(point.x - from.x - nearest * along.x, point.y - from.y - nearest * along.y);
+}
+
+QString DrawingPiece::toString() const
+{
+    return QString("kind %1 from %2, %3 to %4, %5 bulge %6")
+        .arg(static_cast<int>(kind))
+        .arg(from.x)
+        .arg(from.y)
+        .arg(to.x)
+        .arg(to.y)
+        .arg(bulge);
+}
+
+std::vector<DrawingPiece> piecesOf(const Drawing& drawing)
+{
+    std::vector<DrawingPiece> pieces;
+    for (const Entity& entity : drawing.entities) {
+        if (const auto* line = std::get_if<LineSegment>(&entity.shape))
+            pieces.push_back({entity.kind, line->from, line->to, 0});
+        const auto* polyline = std::get_if<Polyline>(&entity.shape);
+        if (!polyline)
+            continue;
+        const auto& vertices = polyline->vertices;
+        for (std::size_t i = 0; i + (polyline->closed ? 0 : 1) < vertices.size(); ++i)
+            pieces.push_back({entity.kind, vertices[i].point, vertices[(i + 1) % vertices.size()].point,
+                              vertices[i].bulge});
+    }
+    return pieces;
+}
+
+std::vector<Circle> circlesOf(const Drawing& drawing, LineKind kind)
+{
+    std::vector<Circle> circles;
+    for (const Entity& entity : drawing.entities)
+        if (const auto* circle = std::get_if<Circle>(&entity.shape); circle && entity.kind == kind)
+            circles.push_back(*circle);
+    return circles;
+}
+
+std::vector<Entity> edgesOf(const Drawing& drawing)
+{
+    std::vector<Entity> edges;
+    std::copy_if(drawing.entities.begin(), drawing.entities.end(), std::back_inserter(edges),
+                 [](const Entity& entity) { return entity.kind != LineKind::Centre; });
+    return edges;
+}
+
+bool overlap(const DrawingPiece& a, const DrawingPiece& b)
+{
+    const double length = a.length();
+    const Point2 along{(a.to.x - a.from.x) / length, (a.to.y - a.from.y) / length};
+    const auto beside = [&](const Point2& point) {
+        return along.x * (point.y - a.from.y) - along.y * (point.x - a.from.x);
+    };
+    const auto position = [&](const Point2& point) {
+        return along.x * (point.x - a.from.x) + along.y * (point.y - a.from.y);
+    };
+    constexpr double tolerance = 1e-5;
+    if (std::abs(beside(b.from)) > tolerance || std::abs(beside(b.to)) > tolerance)
+        return false;
+    const double from = std::min(position(b.from), position(b.to));
+    const double to = std::max(position(b.from), position(b.to));
+    return std::min(to, length) - std::max(from, 0.0) > 100 * tolerance;
+}
+
+} // namespace test
