@@ -4,7 +4,12 @@
 #include "devcatalog/CertificateFolder.h"
 #include "devcatalog/ServiceHost.h"
 
+#include <algorithm>
+#include <chrono>
 #include <exception>
+#include <mutex>
+#include <random>
+#include <thread>
 
 namespace devhost
 {
@@ -25,16 +30,46 @@ devcatalog::CatalogServerOptions builtInOptions()
     return options;
 }
 
+int randomNumber(int most)
+{
+    static std::mutex mutex;
+    static std::mt19937 generator; // The same numbers in every run.
+    const std::lock_guard<std::mutex> lock(mutex);
+    return std::uniform_int_distribution<>(0, most)(generator);
+}
+
+void spoil(std::string& file, CatalogConduct::Drawings drawings)
+{
+    if (drawings == CatalogConduct::Drawings::CutShort)
+        file.resize(file.size() / 2);
+    else if (drawings == CatalogConduct::Drawings::Noise)
+        std::generate(file.begin(), file.end(), [] { return static_cast<char>(randomNumber(255)); });
+}
+
+/// Spoils and delays a reply as told; called in one of the catalog's threads.
+void misbehave(const CatalogConduct& conduct, devcatalog::HttpReply& reply)
+{
+    constexpr int longestDelay = 300; // Milliseconds.
+    if (reply.contentType == "image/vnd.dwg")
+        spoil(reply.body, conduct.drawings);
+    if (conduct.slow)
+        std::this_thread::sleep_for(std::chrono::milliseconds(randomNumber(longestDelay)));
+}
+
 } // namespace
 
 EmbeddedCatalog::EmbeddedCatalog() = default;
 
 EmbeddedCatalog::~EmbeddedCatalog() = default;
 
-bool EmbeddedCatalog::start()
+bool EmbeddedCatalog::start(const CatalogConduct& conduct)
 {
     try {
-        m_server = std::make_unique<devcatalog::CatalogServer>(builtInOptions());
+        devcatalog::CatalogServerOptions options = builtInOptions();
+        options.beforeReply = [conduct](const devcatalog::HttpRequest&, devcatalog::HttpReply& reply) {
+            misbehave(conduct, reply);
+        };
+        m_server = std::make_unique<devcatalog::CatalogServer>(std::move(options));
         m_server->start();
         return true;
     } catch (const std::exception& exception) {

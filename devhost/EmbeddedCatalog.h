@@ -1,5 +1,7 @@
 #pragma once
 
+#include "devhost/Options.h"
+
 #include <QString>
 
 #include <memory>
@@ -23,7 +25,7 @@ public:
     EmbeddedCatalog& operator=(const EmbeddedCatalog&) = delete;
 
     /// Starts the service. @return false when it cannot be: see errorString().
-    bool start();
+    bool start(const CatalogConduct& conduct);
     /// @return one line for a person to read.
     const QString& errorString() const { return m_errorString; }
 

@@ -1,6 +1,7 @@
 #include "devhost/Options.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 namespace devhost
 {
@@ -8,7 +9,7 @@ namespace devhost
 namespace
 {
 
-const char defaultTourFolder[] = "tour";
+const char defaultTourFolder[] = "out/tour";
 
 /// The folder after --tour can be left out, which the parser has no means for.
 QStringList withTourFolder(QStringList arguments)
@@ -33,11 +34,33 @@ void addOptions(QCommandLineParser& parser, const QString& defaultLibrary)
         {"catalog", "Catalog service: embedded starts one in this process, none starts none.", "which",
          "embedded"},
         {"ca", "PEM file of a certificate authority to trust for the catalog service.", "file"},
+        {"slow", "The embedded catalog takes 0 to 300 ms for a reply."},
+        {"drawings", "Drawing files of the embedded catalog: whole, noise, or cut short.", "which", "whole"},
+        {"size", "Size of the window.", "width x height"},
         {"tour", "Plays the whole road by itself and saves screenshots in the folder DIR.", "DIR"},
+        {"long", "The tour takes the long road: several searches, parts, drawings, and what goes wrong."},
         {"account", "Account that the tour logs in with, instead of the embedded catalog's.",
          "user:password"},
         {"term", "What the tour searches for.", "text", "bolt"},
     });
+}
+
+/// @param text "1280x800". @return an invalid size when it is none.
+QSize sizeIn(const QString& text)
+{
+    const auto match = QRegularExpression("^(\\d{3,5})x(\\d{3,5})$").match(text);
+    return match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
+}
+
+CatalogConduct conductIn(const QCommandLineParser& parser)
+{
+    CatalogConduct conduct;
+    conduct.slow = parser.isSet("slow");
+    if (parser.value("drawings") == "noise")
+        conduct.drawings = CatalogConduct::Drawings::Noise;
+    else if (parser.value("drawings") == "cut")
+        conduct.drawings = CatalogConduct::Drawings::CutShort;
+    return conduct;
 }
 
 } // namespace
@@ -53,11 +76,14 @@ Options parseOptions(const QStringList& arguments, const QString& defaultLibrary
     options.caFile = parser.value("ca");
     options.tour = parser.isSet("tour");
     options.tourFolder = parser.value("tour");
+    options.longRoad = parser.isSet("long");
     options.searchTerm = parser.value("term");
     const QString account = parser.value("account");
     options.accountUser = account.section(':', 0, 0);
     options.accountPassword = account.section(':', 1);
     options.embeddedCatalog = parser.value("catalog") == "embedded";
+    options.catalogConduct = conductIn(parser);
+    options.windowSize = sizeIn(parser.value("size"));
     options.settings.darkTheme = parser.value("theme") == "dark";
     options.settings.webHelp = parser.isSet("web-help");
     bool isNumber = false;
@@ -71,6 +97,10 @@ Options parseOptions(const QStringList& arguments, const QString& defaultLibrary
         *error = "--theme takes light or dark.";
     else if (!QStringList{"embedded", "none"}.contains(parser.value("catalog")))
         *error = "--catalog takes embedded or none.";
+    else if (!QStringList{"whole", "noise", "cut"}.contains(parser.value("drawings")))
+        *error = "--drawings takes whole, noise or cut.";
+    else if (parser.isSet("size") && !options.windowSize.isValid())
+        *error = "--size takes a width and a height, as 1280x800.";
     else if (parser.isSet("account") && !account.contains(':'))
         *error = "--account takes user:password.";
     else if (options.library.isEmpty())

@@ -2,22 +2,34 @@
 
 #include "devhost/model/HostSettings.h"
 
+#include <QSize>
 #include <QStringList>
 
 namespace devhost
 {
+
+/// How the embedded catalog serves: as it should, or worse, to try the add-in against such a service.
+struct CatalogConduct {
+    enum class Drawings { Whole, Noise, CutShort };
+
+    bool slow = false; ///< A reply takes 0 to 300 ms, so that replies overtake one another.
+    Drawings drawings = Drawings::Whole;
+};
 
 /// What the command line of the program asks for.
 struct Options {
     QString library; ///< Path of the add-in library.
     HostSettings settings;
     bool embeddedCatalog = true; ///< Starts the catalog service in this process.
+    CatalogConduct catalogConduct;
     QString caFile; ///< Certificate authority to trust besides those of the system; may be empty.
+    QSize windowSize; ///< Not valid when none was given.
     bool tour = false;
-    QString tourFolder;  ///< Where the tour saves its screenshots.
+    QString tourFolder;    ///< Where the tour saves its screenshots.
+    bool longRoad = false; ///< The tour goes back and forth, fails, and cancels, too.
     QString accountUser; ///< The account that the tour logs in with; empty when none was given.
     QString accountPassword;
-    QString searchTerm;
+    QString searchTerm; ///< Of the tour.
 };
 
 /// Reads the program's arguments. Help is printed, and ends the program, as the toolkit does it.

@@ -5,6 +5,7 @@
 #include "devhost/window/MainWindow.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QScreen>
 #include <QSslConfiguration>
 #include <QTextStream>
@@ -31,13 +32,15 @@ bool trust(const QString& caFile)
 int runWindow(const devhost::Options& options)
 {
     devhost::MainWindow window(options.settings);
-    if (!options.tour) // Its screenshots have one size on every screen.
+    if (options.windowSize.isValid())
+        window.resize(options.windowSize);
+    else if (!options.tour) // Its screenshots have one size on every screen.
         window.resize(window.size().boundedTo(window.screen()->availableSize()));
     window.show();
-    devhost::AddInSession session(options.library, window);
-    session.start();
+    devhost::AddInSession session(QFileInfo(options.library).absoluteFilePath(), window);
     if (options.tour)
-        return devhost::Tour(window, options).run() ? 0 : 1;
+        return devhost::Tour(window, session, options).run() ? 0 : 1;
+    session.start();
     return QApplication::exec();
 }
 
@@ -64,7 +67,7 @@ int main(int argc, char* argv[])
 
     devhost::EmbeddedCatalog catalog;
     if (options.embeddedCatalog) {
-        if (!catalog.start())
+        if (!catalog.start(options.catalogConduct))
             return fail(catalog.errorString());
         trust(catalog.caFile());
     }

@@ -16,7 +16,7 @@ namespace devhost
 namespace
 {
 
-constexpr qint64 maximumFileSize = 64 * 1024 * 1024;
+constexpr qint64 maximumFileSize = qint64{64} * 1024 * 1024;
 constexpr int maximumPoints = 1000 * 1000;
 constexpr double circleStepDegrees = 2.0;
 constexpr double largestCoordinate = 1e12; // Far beyond any drawing; damaged files give such numbers.

@@ -64,7 +64,8 @@ TourStep HostSteps::openHelp() const
         return userInput::click(corner != nullptr ? corner->findChild<QPushButton*>() : nullptr);
     };
     step.look = [this]() -> Sight {
-        const QString call = m_window.host().journal().lines().value(m_window.host().journal().lines().size() - 1);
+        const QString call =
+            m_window.host().journal().lines().value(m_window.host().journal().lines().size() - 1);
         return {call.startsWith("OpenChmHelp") || call.startsWith("OpenWebHelp"), call};
     };
     return step;

@@ -185,7 +185,8 @@ TourStep PaneSteps::openViews() const
     step.look = [this]() -> Sight {
         const QComboBox* views = m_pages.viewList();
         const bool isOpen = views != nullptr && views->view()->isVisible();
-        return {isOpen, isOpen ? QString("%1 views are listed").arg(views->count()) : QString("no list is open")};
+        return {isOpen,
+                isOpen ? QString("%1 views are listed").arg(views->count()) : QString("no list is open")};
     };
     return step;
 }
@@ -257,12 +258,18 @@ Sight PaneSteps::lookForResults(const QStringList& before) const
         return {false, "no results are shown"};
     if (names == before)
         return {false, "still the same results: " + quoted(names)};
-    const auto pictures = std::count_if(rows.begin(), rows.end(), [](const ResultRow& row) { return row.hasPicture(); });
+    const auto pictures =
+        std::count_if(rows.begin(), rows.end(), [](const ResultRow& row) { return row.hasPicture(); });
     if (pictures < rows.size())
-        return {false, QString("%1 results, %2 of them with a picture: %3").arg(rows.size()).arg(pictures).arg(quoted(names))};
+        return {false, QString("%1 results, %2 of them with a picture: %3")
+                           .arg(rows.size())
+                           .arg(pictures)
+                           .arg(quoted(names))};
     const int different = countDifferentPictures(rows);
-    return {different > 1 || rows.size() == 1,
-            QString("%1 results with %2 different pictures: %3").arg(rows.size()).arg(different).arg(quoted(names))};
+    return {different > 1 || rows.size() == 1, QString("%1 results with %2 different pictures: %3")
+                                                   .arg(rows.size())
+                                                   .arg(different)
+                                                   .arg(quoted(names))};
 }
 
 Sight PaneSteps::lookForDetails(const QString& name) const

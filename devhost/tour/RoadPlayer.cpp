@@ -31,8 +31,8 @@ void print(const QString& line)
 QMessageBox* visibleBox()
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    const bool isShown =
-        box != nullptr && box->isVisible() && box->windowHandle() != nullptr && box->windowHandle()->isExposed();
+    const bool isShown = box != nullptr && box->isVisible() && box->windowHandle() != nullptr &&
+                         box->windowHandle()->isExposed();
     return isShown ? box : nullptr;
 }
 

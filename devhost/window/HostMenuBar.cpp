@@ -40,7 +40,7 @@ QMenu* HostMenuBar::createMenu(const HostApplication& application, const HostMen
 
 void HostMenuBar::addEntry(QMenu& menu, const HostApplication& application, const HostMenuItem& entry)
 {
-    const HostMenuItem::Properties properties = entry.properties();
+    const HostMenuItem::Properties& properties = entry.properties();
     if (properties.caption.isEmpty()) {
         menu.addSeparator();
         return;

@@ -14,7 +14,6 @@ Q_DECLARE_METATYPE(devhost::Outcome)
 
 using devhost::HostApplication;
 using devhost::Outcome;
-using devhost::toPvString;
 using devhost::toQString;
 
 namespace
@@ -294,7 +293,9 @@ void HostModelTest::referencesAreCounted()
     {
         const pvInterfacePtr<pvApplication_c> application(m_host.get());
         const pvInterfacePtr<pvCustomPropertyControl_c> first(control);
-        const pvInterfacePtr<pvCustomPropertyControl_c> second(first);
+        pvInterfacePtr<pvCustomPropertyControl_c> second;
+        second = first;
+        QCOMPARE(second.get(), control);
         QCOMPARE(m_host->references().outstanding(), 3);
 
         // What the host dropped stays usable while it is referenced.

@@ -142,7 +142,7 @@ std::vector<std::shared_ptr<devhost::HostBlockInstance>> MainWindowTest::blocks(
 
 QString MainWindowTest::drawingFile(const QByteArray& bytes)
 {
-    const QString path = m_folder.filePath("part0.dwg");
+    QString path = m_folder.filePath("part0.dwg");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("The test's file cannot be written");
@@ -228,9 +228,7 @@ void MainWindowTest::scaleAndRotationCanBeTyped()
 void MainWindowTest::promptIsCancelled_data()
 {
     QTest::addColumn<std::function<void()>>("user");
-    const auto row = [](const char* name, std::function<void()> user) {
-        QTest::newRow(name) << std::move(user);
-    };
+    const auto row = [](const char* name, const std::function<void()>& user) { QTest::newRow(name) << user; };
     row("Esc over the drawing", [this] { QTest::keyClick(&m_window->drawingArea(), Qt::Key_Escape); });
     row("Esc in the command line", [this] {
         m_window->commandLine().input()->setFocus();

@@ -30,9 +30,9 @@ public:
     /// Answers every prompt from now on by placing the block at that point, as preset otherwise.
     void acceptPromptsAt(double x, double y);
     /// What reading that file gives, instead of an empty block for a file that exists and nothing for others.
-    void setBlock(const QString& file, std::optional<devhost::BlockGeometry> geometry)
+    void setBlock(const QString& file, const std::optional<devhost::BlockGeometry>& geometry)
     {
-        m_blocks.insert(file, std::move(geometry));
+        m_blocks.insert(file, geometry);
     }
 
     /// @return the widget of the newest pane; null when there is none, or it is gone.
