@@ -94,6 +94,7 @@ std::vector<Vector3> Revolution::ring(const Point2& point, bool inside) const
 {
     const double step = 2 * pi / facetsAround;
     std::vector<Vector3> points;
+    points.reserve(facetsAround);
     for (int i = 0; i < facetsAround; ++i)
         points.push_back(inside ? m_frame.polar(point.x, i * step, point.y)
                                 : m_frame.polar(point.x / std::cos(step / 2), (i + 0.5) * step, point.y));

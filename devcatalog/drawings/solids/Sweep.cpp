@@ -29,6 +29,7 @@ std::vector<Vector3> ring(const Vector3& centre, const Vector3& tangent, const V
 {
     const Frame frame = Frame::at(centre, tangent, u);
     std::vector<Vector3> points;
+    points.reserve(facetsAround);
     for (int i = 0; i < facetsAround; ++i)
         points.push_back(frame.polar(radius, 2 * pi * i / facetsAround, 0));
     return points;

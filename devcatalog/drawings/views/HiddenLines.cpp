@@ -34,9 +34,9 @@ std::vector<Curve> straightParts(const ArcCurve& arc, const Camera& camera)
     const double low = std::min(arc.from, arc.to);
     const double high = std::max(arc.from, arc.to);
     std::vector<double> angles{low};
-    for (double angle = turn + pi * std::ceil((low - turn) / pi); angle < high - 1e-9; angle += pi)
-        if (angle > low + 1e-9)
-            angles.push_back(angle);
+    const int first = static_cast<int>(std::ceil((low - turn) / pi + 1e-9));
+    for (int i = first; turn + i * pi < high - 1e-9; ++i)
+        angles.push_back(turn + i * pi);
     angles.push_back(high);
     std::vector<Curve> parts;
     for (std::size_t i = 0; i + 1 < angles.size(); ++i)
@@ -188,6 +188,7 @@ StrokeSet findStrokes(const Solid& solid, const Camera& camera)
     const double tolerance = 1e-6 * result.size;
     const std::vector<Candidate> found = candidates(solid, camera);
     std::vector<Curve> curves;
+    curves.reserve(found.size());
     for (const Candidate& candidate : found)
         curves.push_back(candidate.curve);
     const auto splits = CurveSplitter(curves, camera, tolerance).split();

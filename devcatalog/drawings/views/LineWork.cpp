@@ -211,6 +211,7 @@ void LineWork::appendChains(std::vector<Entity>& entities, std::vector<Path> pie
         return;
     const LineKind kind = pieces.front().kind;
     std::vector<Polyline> lines;
+    lines.reserve(pieces.size());
     for (Path& piece : pieces)
         lines.push_back({std::move(piece.vertices), false});
     if (kind != LineKind::Centre)
