@@ -45,8 +45,11 @@ public:
     void serve(CatalogServer& server)
     {
         m_listener->serve([this, &server](const HttpRequest& request) {
-            const SoapReply reply = answer(request);
+            SoapReply reply = answer(request);
             server.record({request.method, request.path, reply.operation, reply.http.status, reply.fault});
+            if (server.m_options.beforeReply) {
+                server.m_options.beforeReply(request, reply.http);
+            }
             return reply.http;
         });
     }

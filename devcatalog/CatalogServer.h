@@ -1,6 +1,7 @@
 #pragma once
 
 #include "devcatalog/Accounts.h"
+#include "devcatalog/HttpMessages.h"
 
 #include <cstddef>
 #include <deque>
@@ -32,6 +33,10 @@ struct CatalogServerOptions {
     /// Takes a line for each request; it never holds a password, session id, key or token. Called from the
     /// server's threads, one at a time. May be empty.
     std::function<void(const std::string& line)> log;
+
+    /// Gets each reply before it is sent and may delay or spoil it, to try clients against such a service.
+    /// Called from the server's threads, several at a time. May be empty.
+    std::function<void(const HttpRequest& request, HttpReply& reply)> beforeReply;
 };
 
 /// How a request went.

@@ -41,7 +41,8 @@ void addOptions(QCommandLineParser& parser, const QString& defaultLibrary)
         {"long", "The tour takes the long road: several searches, parts, drawings, and what goes wrong."},
         {"account", "Account that the tour logs in with, instead of the embedded catalog's.",
          "user:password"},
-        {"term", "What the tour searches for.", "text", "bolt"},
+        {"term", "What the tour searches for; the long one takes several in turn, joined by commas.", "text",
+         "bolt,washer,nut"},
     });
 }
 
@@ -77,7 +78,7 @@ Options parseOptions(const QStringList& arguments, const QString& defaultLibrary
     options.tour = parser.isSet("tour");
     options.tourFolder = parser.value("tour");
     options.longRoad = parser.isSet("long");
-    options.searchTerm = parser.value("term");
+    options.searchTerms = parser.value("term").split(',');
     const QString account = parser.value("account");
     options.accountUser = account.section(':', 0, 0);
     options.accountPassword = account.section(':', 1);

@@ -22,14 +22,14 @@ struct Options {
     HostSettings settings;
     bool embeddedCatalog = true; ///< Starts the catalog service in this process.
     CatalogConduct catalogConduct;
-    QString caFile; ///< Certificate authority to trust besides those of the system; may be empty.
+    QString caFile;   ///< Certificate authority to trust besides those of the system; may be empty.
     QSize windowSize; ///< Not valid when none was given.
     bool tour = false;
     QString tourFolder;    ///< Where the tour saves its screenshots.
     bool longRoad = false; ///< The tour goes back and forth, fails, and cancels, too.
-    QString accountUser; ///< The account that the tour logs in with; empty when none was given.
+    QString accountUser;   ///< The account that the tour logs in with; empty when none was given.
     QString accountPassword;
-    QString searchTerm; ///< Of the tour.
+    QStringList searchTerms; ///< Of the tour, at least one.
 };
 
 /// Reads the program's arguments. Help is printed, and ends the program, as the toolkit does it.

@@ -1,7 +1,6 @@
 #include "devhost/tour/PanePages.h"
 
 #include <QComboBox>
-#include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
@@ -58,6 +57,11 @@ QStringList PanePages::resultNames() const
     for (const ResultRow& row : resultRows())
         names.append(row.name);
     return names;
+}
+
+QComboBox* PanePages::viewList() const
+{
+    return shownIn<QComboBox>(detailPage());
 }
 
 QLabel* PanePages::configurationName() const

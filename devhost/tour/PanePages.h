@@ -1,12 +1,12 @@
 #pragma once
 
+#include <QDockWidget>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 #include <QWidget>
 
 class QComboBox;
-class QDockWidget;
 class QLabel;
 class QMainWindow;
 class QPushButton;
@@ -51,7 +51,7 @@ public:
 
     /// The detail page's widgets; null while the page is not shown.
     QWidget* detailPage() const { return shown<>("PreviewUI"); }
-    QComboBox* viewList() const { return shownIn<QComboBox>(detailPage()); }
+    QComboBox* viewList() const;
     QLabel* configurationName() const;
     /// @return the large picture whose click starts the download.
     QLabel* preview() const;

@@ -23,7 +23,7 @@ Road shortRoad(const HostSteps& host, const PaneSteps& pane, const PlacementStep
         pane.logIn(),
 
         pane.openBrowsing(),
-        pane.typeTerm(options.searchTerm),
+        pane.typeTerm(options.searchTerms.constFirst()),
         pane.pressReturn(),
         pane.turnPage("pushButton2"),
 

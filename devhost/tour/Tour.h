@@ -1,25 +1,46 @@
 #pragma once
 
 #include "devhost/Options.h"
+#include "devhost/tour/HostSteps.h"
+#include "devhost/tour/PaneSteps.h"
+#include "devhost/tour/PlacementSteps.h"
+#include "devhost/tour/RoadPlayer.h"
+#include "devhost/tour/Screenshots.h"
 
 namespace devhost
 {
 
+class AddInSession;
 class MainWindow;
 
-/// Plays the whole road through the add-in by real mouse and key events.
+/// Plays a whole road through the add-in by mouse and key events, from its connection to its unload.
+///
+/// It prints a line for each step with what was seen, and saves a picture of it. Meanwhile the process has an
+/// empty current directory of its own, for that is where the add-in puts the drawings that it downloads.
 class Tour
 {
 public:
-    /// @param window shown, with the add-in connected; must outlive the tour.
-    Tour(MainWindow& window, const Options& options);
+    /// @param window shown. @param session not started yet. Both must outlive the tour.
+    Tour(MainWindow& window, AddInSession& session, const Options& options);
 
-    /// @return whether everything was seen.
+    /// @return whether everything was seen that is to be seen.
     bool run();
 
 private:
+    bool playInOwnDirectory();
+    bool playRoad();
+    bool checkDrawing();
+    bool disconnect();
+
+    AddInSession& m_session;
     MainWindow& m_window;
     Options m_options;
+    bool m_areDrawingsReadable;
+    HostSteps m_host;
+    PaneSteps m_pane;
+    PlacementSteps m_placement;
+    Screenshots m_screenshots;
+    RoadPlayer m_player;
 };
 
 } // namespace devhost

@@ -4,6 +4,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QWheelEvent>
@@ -134,11 +135,15 @@ QString click(QWidget* widget)
 
 QString click(QWidget* widget, const QPoint& position)
 {
+    const QPointer<QWidget> guard(widget);
     const QString problem = moveMouse(widget, position);
-    if (problem.isEmpty())
-        QTest::mouseClick(nativeWindow(*widget), Qt::LeftButton, Qt::NoModifier,
-                          nativePosition(*widget, position));
-    return problem;
+    if (!problem.isEmpty())
+        return problem;
+    if (guard.isNull())
+        return "it went away under the mouse";
+    QTest::mouseClick(nativeWindow(*widget), Qt::LeftButton, Qt::NoModifier,
+                      nativePosition(*widget, position));
+    return QString();
 }
 
 QString clickTab(QTabBar* tabs, int index)
@@ -185,9 +190,12 @@ QString type(const QString& text)
 
 QString typeInto(QLineEdit* line, const QString& text)
 {
+    const QPointer<QLineEdit> guard(line);
     const QString problem = click(line);
     if (!problem.isEmpty())
         return problem;
+    if (guard.isNull())
+        return "it went away under the mouse";
     if (!line->hasFocus())
         return describe(*line) + " does not take the focus";
     const QString noKeyboard = press(Qt::Key_A, Qt::ControlModifier);

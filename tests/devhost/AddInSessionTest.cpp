@@ -109,7 +109,7 @@ void AddInSessionTest::optionsAreRead()
     QCOMPARE(all.tourFolder, QString("shots"));
     QCOMPARE(all.accountUser, QString("me"));
     QCOMPARE(all.accountPassword, QString("with:colon"));
-    QCOMPARE(all.searchTerm, QString("hex bolt"));
+    QCOMPARE(all.searchTerms, QStringList{"hex bolt"});
 
     const Options tour =
         devhost::parseOptions({"devhost", "--tour", "--theme", "dark"}, "default.so", &error);

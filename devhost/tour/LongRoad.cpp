@@ -1,0 +1,103 @@
+#include "devhost/tour/LongRoad.h"
+
+#include "devhost/Options.h"
+#include "devhost/tour/HostSteps.h"
+#include "devhost/tour/PaneSteps.h"
+#include "devhost/tour/PlacementSteps.h"
+
+namespace devhost
+{
+
+namespace
+{
+
+const char previous[] = "prev_pushButton";
+const char next[] = "next_pushButton";
+const char first[] = "pushButton1";
+const char second[] = "pushButton2";
+const char third[] = "pushButton3";
+
+Road start(const HostSteps& host, const PaneSteps& pane, const Options& options)
+{
+    return {
+        host.connectAddIn(),
+        host.runCommand(false),
+        host.runCommand(true),
+
+        pane.typeEmail(options.accountUser),
+        pane.typePassword("not " + options.accountPassword),
+        pane.failToLogIn(),
+        pane.typePassword(options.accountPassword),
+        pane.logIn(),
+        pane.openBrowsing(),
+    };
+}
+
+/// One part is placed twice, in two views.
+Road firstSearch(const PaneSteps& pane, const PlacementSteps& placement, const QString& term)
+{
+    const QPointF left(0.25, 0.5);
+    const QPointF right(0.7, 0.4);
+    return {
+        pane.typeTerm(term),
+        pane.pressReturn(),
+        pane.turnPage(second),
+        pane.turnPage(next),
+        pane.turnPage(previous),
+
+        pane.openResult(0),
+        pane.goBackToResults(),
+        pane.openResult(2),
+        pane.openViews(),
+        pane.chooseView(" Front"),
+        placement.clickPreview("0.dwg"),
+        placement.steerBlock(left),
+        placement.placeBlock(left),
+        pane.openViews(),
+        pane.chooseView(" Top"),
+        placement.clickPreview("1.dwg"),
+        placement.steerBlock(right),
+        placement.placeBlock(right),
+
+        pane.goBackToResults(),
+        pane.turnPage(first),
+        pane.goBackToSearch(),
+    };
+}
+
+/// The user does not wait for pages, and thinks better of a placement.
+Road secondSearch(const PaneSteps& pane, const PlacementSteps& placement, const QString& term)
+{
+    return {
+        pane.typeTerm(term),
+        pane.clickSearch(),
+        pane.turnPages({second, third, second}),
+        pane.openResultWhileTurning(1, first),
+        placement.clickPreview("2.dwg"),
+        placement.steerBlock(QPointF(0.5, 0.8)),
+        placement.cancelPlacement(),
+        pane.goBackToResults(),
+        pane.goBackToSearch(),
+    };
+}
+
+Road thirdSearch(const PaneSteps& pane, const QString& term)
+{
+    return {
+        pane.typeTerm(term),   pane.pressReturn(),   pane.turnPage(second), pane.turnPage(next),
+        pane.turnPage(second), pane.turnPage(first), pane.openResult(3),    pane.goBackToResults(),
+    };
+}
+
+} // namespace
+
+Road longRoad(const HostSteps& host, const PaneSteps& pane, const PlacementSteps& placement,
+              const Options& options)
+{
+    const QStringList terms = options.searchTerms;
+    const auto term = [&](int index) { return terms.at(index % terms.size()); };
+    return start(host, pane, options) + firstSearch(pane, placement, term(0)) +
+           secondSearch(pane, placement, term(1)) + thirdSearch(pane, term(2));
+}
+
+} // namespace devhost
