@@ -42,7 +42,7 @@ void addOptions(QCommandLineParser& parser, const QString& defaultLibrary)
         {"account", "Account that the tour logs in with, instead of the embedded catalog's.",
          "user:password"},
         {"term", "What the tour searches for; the long one takes several in turn, joined by commas.", "text",
-         "bolt,washer,nut"},
+         "bolt,washer,gear"},
     });
 }
 

@@ -11,12 +11,6 @@ namespace devhost
 namespace
 {
 
-const char previous[] = "prev_pushButton";
-const char next[] = "next_pushButton";
-const char first[] = "pushButton1";
-const char second[] = "pushButton2";
-const char third[] = "pushButton3";
-
 Road start(const HostSteps& host, const PaneSteps& pane, const Options& options)
 {
     return {
@@ -41,9 +35,9 @@ Road firstSearch(const PaneSteps& pane, const PlacementSteps& placement, const Q
     return {
         pane.typeTerm(term),
         pane.pressReturn(),
-        pane.turnPage(second),
-        pane.turnPage(next),
-        pane.turnPage(previous),
+        pane.turnPage("2"),
+        pane.turnPage(">"),
+        pane.turnPage("<"),
 
         pane.openResult(0),
         pane.goBackToResults(),
@@ -60,7 +54,7 @@ Road firstSearch(const PaneSteps& pane, const PlacementSteps& placement, const Q
         placement.placeBlock(right),
 
         pane.goBackToResults(),
-        pane.turnPage(first),
+        pane.turnPage("1"),
         pane.goBackToSearch(),
     };
 }
@@ -71,8 +65,8 @@ Road secondSearch(const PaneSteps& pane, const PlacementSteps& placement, const 
     return {
         pane.typeTerm(term),
         pane.clickSearch(),
-        pane.turnPages({second, third, second}),
-        pane.openResultWhileTurning(1, first),
+        pane.turnPages({"2", "3", "2"}),
+        pane.openResultWhileTurning(1, "1"),
         placement.clickPreview("2.dwg"),
         placement.steerBlock(QPointF(0.5, 0.8)),
         placement.cancelPlacement(),
@@ -81,11 +75,12 @@ Road secondSearch(const PaneSteps& pane, const PlacementSteps& placement, const 
     };
 }
 
+/// The user goes on from page 5, where the page buttons get other numbers.
 Road thirdSearch(const PaneSteps& pane, const QString& term)
 {
     return {
-        pane.typeTerm(term),   pane.pressReturn(),   pane.turnPage(second), pane.turnPage(next),
-        pane.turnPage(second), pane.turnPage(first), pane.openResult(3),    pane.goBackToResults(),
+        pane.typeTerm(term), pane.pressReturn(), pane.turnPage("5"), pane.turnPage(">"),
+        pane.turnPage("7"),  pane.turnPage("1"), pane.openResult(3), pane.goBackToResults(),
     };
 }
 

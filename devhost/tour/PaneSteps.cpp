@@ -21,6 +21,7 @@ namespace
 const char loggedIn[] = "Login is successful.";
 const char notLoggedIn[] = "Login is not successful.";
 const char searchLine[] = "SearchLine";
+const char resultsPage[] = "PartHarbor_2D";
 const char backButton[] = "pushButton"; // Of the results page and of the detail page.
 constexpr int browsingTab = 1;
 
@@ -129,20 +130,20 @@ TourStep PaneSteps::clickSearch() const
     return step;
 }
 
-TourStep PaneSteps::turnPage(const QString& button) const
+TourStep PaneSteps::turnPage(const QString& page) const
 {
-    return turnPages({button});
+    return turnPages({page});
 }
 
-TourStep PaneSteps::turnPages(const QStringList& buttons) const
+TourStep PaneSteps::turnPages(const QStringList& pages) const
 {
     const auto before = std::make_shared<QStringList>();
     TourStep step;
-    step.name = "Turn the page by " + buttons.join(", ");
+    step.name = "Turn to page " + pages.join(", ");
     step.act = [=]() -> QString {
         *before = m_pages.resultNames();
-        for (const QString& button : buttons) {
-            const QString problem = clickPageButton(button);
+        for (const QString& page : pages) {
+            const QString problem = clickPageButton(page);
             if (!problem.isEmpty())
                 return problem;
         }
@@ -165,13 +166,13 @@ TourStep PaneSteps::openResult(int row) const
     return step;
 }
 
-TourStep PaneSteps::openResultWhileTurning(int row, const QString& button) const
+TourStep PaneSteps::openResultWhileTurning(int row, const QString& page) const
 {
     TourStep step = openResult(row);
     step.name += " while a page is on its way";
     const auto open = step.act;
     step.act = [=] {
-        const QString problem = clickPageButton(button);
+        const QString problem = clickPageButton(page);
         return problem.isEmpty() ? open() : problem;
     };
     return step;
@@ -227,7 +228,7 @@ TourStep PaneSteps::goBackToSearch() const
     TourStep step;
     step.name = "Go back to the search";
     step.act = [this] {
-        QWidget* page = m_pages.shown<>("PartHarbor_2D");
+        QWidget* page = m_pages.shown<>(resultsPage);
         return userInput::click(page != nullptr ? page->findChild<QPushButton*>(backButton) : nullptr);
     };
     step.look = [this]() -> Sight {
@@ -239,10 +240,16 @@ TourStep PaneSteps::goBackToSearch() const
     return step;
 }
 
-QString PaneSteps::clickPageButton(const QString& name) const
+QString PaneSteps::clickPageButton(const QString& page) const
 {
-    const QWidget* page = m_pages.shown<>("PartHarbor_2D");
-    return userInput::click(page != nullptr ? page->findChild<QPushButton*>(name) : nullptr);
+    const QWidget* results = m_pages.shown<>(resultsPage);
+    if (results == nullptr)
+        return "no results are shown";
+    for (QPushButton* button : results->findChildren<QPushButton*>()) {
+        if (button->text() == page)
+            return userInput::click(button);
+    }
+    return QString("no button shows \"%1\"").arg(page);
 }
 
 QString PaneSteps::openRow(int row) const

@@ -31,14 +31,14 @@ public:
     TourStep clickSearch() const;
 
     /// Outcome: other results than before, every row with a picture.
-    /// @param button the page button's object name.
-    TourStep turnPage(const QString& button) const;
+    /// @param page what the page button shows.
+    TourStep turnPage(const QString& page) const;
     /// Asks for several pages before the first has come. Outcome: as of turnPage, for one of the pages.
-    TourStep turnPages(const QStringList& buttons) const;
+    TourStep turnPages(const QStringList& pages) const;
     /// Outcome: the detail page of that result with its configuration and its preview.
     TourStep openResult(int row) const;
     /// Asks for another page, and opens a result before it has come. Outcome: as of openResult.
-    TourStep openResultWhileTurning(int row, const QString& button) const;
+    TourStep openResultWhileTurning(int row, const QString& page) const;
     /// Outcome: the list of views is open.
     TourStep openViews() const;
     /// Outcome: the view is the chosen one.
@@ -50,7 +50,7 @@ public:
 
 private:
     TourStep typeText(const QString& name, const QString& line, const QString& text) const;
-    QString clickPageButton(const QString& name) const;
+    QString clickPageButton(const QString& page) const;
     QString openRow(int row) const;
     Sight lookForResults(const QStringList& before) const;
     Sight lookForDetails(const QString& name) const;

@@ -162,7 +162,7 @@ void RoadPlayer::look()
         m_lastSeen = QString("no box said \"%1\"").arg(step.box);
         return;
     }
-    const Sight sight = step.look ? step.look() : Sight{true, QString("the box came and was closed")};
+    const Sight sight = step.look ? step.look() : Sight{true, QString("the box said so and was closed")};
     m_lastSeen = sight.text;
     if (!sight.isOutcome)
         return;

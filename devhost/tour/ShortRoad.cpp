@@ -25,7 +25,7 @@ Road shortRoad(const HostSteps& host, const PaneSteps& pane, const PlacementStep
         pane.openBrowsing(),
         pane.typeTerm(options.searchTerms.constFirst()),
         pane.pressReturn(),
-        pane.turnPage("pushButton2"),
+        pane.turnPage("2"),
 
         pane.openResult(1),
         pane.openViews(),

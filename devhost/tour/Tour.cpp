@@ -6,11 +6,36 @@
 #include "devhost/window/MainWindow.h"
 
 #include <QDockWidget>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextStream>
 
 namespace devhost
 {
+
+namespace
+{
+
+QtMessageHandler earlierHandler = nullptr;
+
+/// Leaves out what would hide the tour's own lines: the service's replies, which the add-in writes to the
+/// debug output with the keys in them, and the offscreen platform's remarks on what it cannot do.
+void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type != QtDebugMsg && !text.startsWith("This plugin does not support"))
+        earlierHandler(type, context, text);
+}
+
+/// Moves the window so that its pane lies on the offscreen platform's screen, which is smaller than the
+/// window and within which lists open.
+void moveOntoOffscreen(QWidget& window)
+{
+    if (QGuiApplication::platformName() == "offscreen")
+        window.move(window.screen()->geometry().bottomRight() - window.rect().bottomRight());
+}
+
+} // namespace
 
 Tour::Tour(MainWindow& window, AddInSession& session, const Options& options)
     : m_session(session),
@@ -32,7 +57,10 @@ bool Tour::run()
         QTextStream(stderr) << "The tour cannot write its screenshots into " << folder << ".\n";
         return false;
     }
+    moveOntoOffscreen(m_window);
+    earlierHandler = qInstallMessageHandler(passOn);
     const bool isComplete = playInOwnDirectory();
+    qInstallMessageHandler(earlierHandler);
     QTextStream(stdout) << (isComplete ? "The tour has seen everything." : "The tour has failed.")
                         << " Its screenshots are in " << folder << ".\n";
     return isComplete;
