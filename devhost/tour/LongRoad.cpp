@@ -17,6 +17,10 @@ Road start(const HostSteps& host, const PaneSteps& pane, const Options& options)
         host.connectAddIn(),
         host.runCommand(false),
         host.runCommand(true),
+        host.openRibbonTab(),
+        host.clickRibbonButton(false),
+        host.openMenu(),
+        host.chooseMenuEntry(true),
 
         pane.typeEmail(options.accountUser),
         pane.typePassword("not " + options.accountPassword),
@@ -92,7 +96,8 @@ Road longRoad(const HostSteps& host, const PaneSteps& pane, const PlacementSteps
     const QStringList terms = options.searchTerms;
     const auto term = [&](int index) { return terms.at(index % terms.size()); };
     return start(host, pane, options) + firstSearch(pane, placement, term(0)) +
-           secondSearch(pane, placement, term(1)) + thirdSearch(pane, term(2));
+           secondSearch(pane, placement, term(1)) + thirdSearch(pane, term(2)) +
+           Road{placement.lookAtDrawing(2)};
 }
 
 } // namespace devhost

@@ -86,6 +86,19 @@ TourStep PlacementSteps::cancelPlacement() const
     return step;
 }
 
+TourStep PlacementSteps::lookAtDrawing(int blocks) const
+{
+    TourStep step;
+    step.name = "Look at the drawing";
+    step.look = [=]() -> Sight {
+        const int expected = m_areReadable ? blocks : 0;
+        return {
+            blockCount() == expected && downloadedFiles().isEmpty(),
+            QString("blocks: %1, downloaded files left: %2").arg(blockCount()).arg(downloadedFiles().size())};
+    };
+    return step;
+}
+
 int PlacementSteps::blockCount() const
 {
     const auto document = m_window.host().activeDocument();

@@ -32,12 +32,13 @@ public:
     /// Presses Esc. Outcome: the prompt and the file are gone, no block came.
     TourStep cancelPlacement() const;
 
-    /// @return the blocks in the drawing.
+    /// Outcome: that many blocks, and no file.
+    TourStep lookAtDrawing(int blocks) const;
+
+private:
     int blockCount() const;
     /// @return the names of the files that lie in the current directory.
     static QStringList downloadedFiles();
-
-private:
     QPoint pixelAt(const QPointF& place) const;
     Sight lookForPrompt(const QString& ending) const;
     Sight lookForBlock(const QPointF& point, int countBefore) const;

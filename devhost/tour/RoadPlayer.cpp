@@ -78,6 +78,7 @@ void RoadPlayer::startStep(int index)
     m_index = index;
     m_acted = m_boxMet = m_retrying = false;
     m_lastSeen.clear();
+    m_lastBoxLine.clear();
     m_sinceStart.start();
 }
 
@@ -112,7 +113,10 @@ void RoadPlayer::meet(QMessageBox& box)
 {
     if (m_openBox != &box) {
         m_openBox = &box;
-        print(QString("           box \"%1\": \"%2\"").arg(box.windowTitle(), box.text()));
+        const QString line = QString("           box \"%1\": \"%2\"").arg(box.windowTitle(), box.text());
+        if (line != m_lastBoxLine) // A step that is tried again meets it often.
+            print(line);
+        m_lastBoxLine = line;
         if (isPlaying())
             judge(box);
     }

@@ -32,10 +32,8 @@ public:
     /// @return whether all outcomes were seen.
     bool play(const Road& road);
 
-    /// Prints a line of what was seen, numbered as a step. @param isOutcome whether it is what has to be.
-    void report(const QString& name, const Sight& sight);
-
 private:
+    void report(const QString& name, const Sight& sight);
     void startStep(int index);
     bool isPlaying() const;
     bool isActing() const;
@@ -63,6 +61,7 @@ private:
     bool m_boxMet = false;
     bool m_retrying = false;
     QString m_lastSeen;
+    QString m_lastBoxLine;
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceAttempt;
 

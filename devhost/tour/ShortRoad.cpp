@@ -34,6 +34,7 @@ Road shortRoad(const HostSteps& host, const PaneSteps& pane, const PlacementStep
         placement.steerBlock(place),
         placement.placeBlock(place),
         pane.goBackToResults(),
+        placement.lookAtDrawing(1),
     };
 }
 

@@ -5,8 +5,7 @@
 #include "devhost/tour/ShortRoad.h"
 #include "devhost/window/MainWindow.h"
 
-#include <QDockWidget>
-#include <QGuiApplication>
+#include <QDir>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -27,12 +26,16 @@ void passOn(QtMsgType type, const QMessageLogContext& context, const QString& te
         earlierHandler(type, context, text);
 }
 
-/// Moves the window so that its pane lies on the offscreen platform's screen, which is smaller than the
-/// window and within which lists open.
-void moveOntoOffscreen(QWidget& window)
+/// Puts the window in the middle of the screen, where message boxes open. Of a screen that is smaller, as the
+/// offscreen platform's is, it gets the corner where the pane is, for lists open within the screen.
+void moveOntoScreen(QWidget& window)
 {
-    if (QGuiApplication::platformName() == "offscreen")
-        window.move(window.screen()->geometry().bottomRight() - window.rect().bottomRight());
+    const QRect screen = window.screen()->geometry();
+    QRect place(QPoint(), window.size());
+    place.moveCenter(screen.center());
+    place.moveRight(qMin(place.right(), screen.right()));
+    place.moveBottom(qMin(place.bottom(), screen.bottom()));
+    window.move(place.topLeft());
 }
 
 } // namespace
@@ -41,10 +44,9 @@ Tour::Tour(MainWindow& window, AddInSession& session, const Options& options)
     : m_session(session),
       m_window(window),
       m_options(options),
-      m_areDrawingsReadable(options.catalogConduct.drawings == CatalogConduct::Drawings::Whole),
       m_host(window, session),
       m_pane(window),
-      m_placement(window, m_areDrawingsReadable),
+      m_placement(window, options.catalogConduct.drawings == CatalogConduct::Drawings::Whole),
       m_screenshots(options.tourFolder, window),
       m_player(window, m_screenshots)
 {
@@ -57,7 +59,7 @@ bool Tour::run()
         QTextStream(stderr) << "The tour cannot write its screenshots into " << folder << ".\n";
         return false;
     }
-    moveOntoOffscreen(m_window);
+    moveOntoScreen(m_window);
     earlierHandler = qInstallMessageHandler(passOn);
     const bool isComplete = playInOwnDirectory();
     qInstallMessageHandler(earlierHandler);
@@ -72,45 +74,18 @@ bool Tour::playInOwnDirectory()
     const QString before = QDir::currentPath();
     if (!QDir::setCurrent(own.path()))
         return false;
-    bool isComplete = playRoad() && checkDrawing();
-    isComplete = disconnect() && isComplete;
-    isComplete = m_player.play({m_host.missCommand()}) && isComplete;
-    QDir::setCurrent(before);
-    return isComplete;
-}
-
-bool Tour::playRoad()
-{
-    return m_player.play(m_options.longRoad ? longRoad(m_host, m_pane, m_placement, m_options)
-                                            : shortRoad(m_host, m_pane, m_placement, m_options));
-}
-
-bool Tour::checkDrawing()
-{
-    const int placed = m_options.longRoad ? 2 : 1;
-    const int blocks = m_placement.blockCount();
-    const QStringList files = PlacementSteps::downloadedFiles();
-    const bool isRight = blocks == (m_areDrawingsReadable ? placed : 0) && files.isEmpty();
-    m_player.report("Look at the drawing",
-                    {isRight, QString("%1 blocks, %2 downloaded files left").arg(blocks).arg(files.size())});
-    return isRight;
-}
-
-bool Tour::disconnect()
-{
+    const bool isRoadPlayed = m_player.play(road());
+    // Only here, where nothing of the add-in is on the stack any more.
     const bool isUnloaded = m_session.stop();
-    const bool hasPane = PanePages(m_window).dock() != nullptr;
-    const ReferenceLedger& references = m_window.host().references();
-    const QStringList files = PlacementSteps::downloadedFiles();
-    const bool isRight = isUnloaded && !hasPane && references.outstanding() == 0 &&
-                         references.errors().isEmpty() && files.isEmpty();
-    m_player.report(
-        "Disconnect the add-in",
-        {isRight, QString("the library is %1, the pane is %2, %3 references and %4 files are left")
-                      .arg(isUnloaded ? "unloaded" : "still loaded", hasPane ? "still there" : "gone")
-                      .arg(references.outstanding())
-                      .arg(files.size())});
-    return isRight;
+    const bool isAddInGone = m_player.play({m_host.lookForRemains(isUnloaded), m_host.missCommand()});
+    QDir::setCurrent(before);
+    return isRoadPlayed && isAddInGone;
+}
+
+Road Tour::road() const
+{
+    return m_options.longRoad ? longRoad(m_host, m_pane, m_placement, m_options)
+                              : shortRoad(m_host, m_pane, m_placement, m_options);
 }
 
 } // namespace devhost

@@ -28,14 +28,11 @@ public:
 
 private:
     bool playInOwnDirectory();
-    bool playRoad();
-    bool checkDrawing();
-    bool disconnect();
+    Road road() const;
 
     AddInSession& m_session;
     MainWindow& m_window;
     Options m_options;
-    bool m_areDrawingsReadable;
     HostSteps m_host;
     PaneSteps m_pane;
     PlacementSteps m_placement;
