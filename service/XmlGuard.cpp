@@ -3,83 +3,141 @@
 #include <QDomDocument>
 #include <QStringView>
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr int MaximumDepth = 200;
 constexpr int MaximumNodes = 500 * 1000;
 
-/// What one piece of markup adds to a document.
-struct Markup {
-    qsizetype end; ///< index just behind it
-    int nodes = 1;
-    int levels = 0; ///< opened or, negative, closed
-    bool isDeclaration = false;
+/// Goes over the markup alone, once and without recursion, and counts what it will become. Malformed text may
+/// be counted wrongly only where the parser stops at the same place.
+class MarkupScan
+{
+public:
+    explicit MarkupScan(QStringView text) : m_next(text.begin()), m_end(text.end()) {}
+
+    bool isBearable()
+    {
+        while (readText()) {
+            if (!readMarkup() || m_depth > MaximumDepth || m_nodes > MaximumNodes)
+                return false;
+        }
+        return true;
+    }
+
+private:
+    bool readText();
+    bool readMarkup();
+    bool readSection();
+    void readEndTag();
+    void readTag();
+    bool skip(QStringView expected);
+    void skipPast(QStringView end);
+    void skipPast(QChar end);
+
+    const QChar* m_next;
+    const QChar* m_end;
+    int m_nodes = 0;
+    int m_depth = 0;
 };
 
-/// Index just behind the next @p end, or behind the text where there is none.
-qsizetype skipPast(QStringView text, qsizetype from, QStringView end)
+/// Up to and with the next "<". @return false at the end.
+bool MarkupScan::readText()
 {
-    const qsizetype at = text.indexOf(end, from);
-    return at < 0 ? text.size() : at + end.size();
+    const QChar* const start = m_next;
+    while (m_next != m_end && *m_next != QLatin1Char('<')) {
+        if (*m_next == QLatin1Char('&'))
+            ++m_nodes; // may be a node of its own
+        ++m_next;
+    }
+    if (m_next == m_end)
+        return false;
+    if (m_next != start)
+        ++m_nodes;
+    ++m_next;
+    return true;
+}
+
+/// What follows a "<". @return false for a declaration.
+bool MarkupScan::readMarkup()
+{
+    const QChar kind = m_next != m_end ? *m_next : QChar();
+    if (kind == QLatin1Char('/'))
+        readEndTag();
+    else if (kind == QLatin1Char('!') || kind == QLatin1Char('?'))
+        return readSection();
+    else
+        readTag();
+    return true;
+}
+
+/// A comment, a section or an instruction. @return false for a declaration.
+bool MarkupScan::readSection()
+{
+    ++m_nodes;
+    if (skip(u"!--"))
+        skipPast(u"-->");
+    else if (skip(u"![CDATA["))
+        skipPast(u"]]>");
+    else if (skip(u"?"))
+        skipPast(u"?>");
+    else
+        return false;
+    return true;
+}
+
+void MarkupScan::readEndTag()
+{
+    --m_depth;
+    skipPast(QLatin1Char('>'));
 }
 
 /// A start tag or an empty element. Its quoted values may hold a ">" or a "=".
-Markup readTag(QStringView text, qsizetype from)
+void MarkupScan::readTag()
 {
-    int attributes = 0;
-    qsizetype i = from + 1;
-    while (i < text.size() && text[i] != QLatin1Char('>')) {
-        const QChar c = text[i++];
-        if (c == QLatin1Char('"') || c == QLatin1Char('\''))
-            i = skipPast(text, i, QStringView(&c, 1));
-        else if (c == QLatin1Char('='))
-            ++attributes;
+    ++m_nodes;
+    QChar last;
+    while (m_next != m_end && *m_next != QLatin1Char('>')) {
+        last = *m_next++;
+        if (last == QLatin1Char('"') || last == QLatin1Char('\''))
+            skipPast(last);
+        else if (last == QLatin1Char('='))
+            m_nodes += 2; // an attribute and its value
     }
-    const bool isEmptyElement = text[i - 1] == QLatin1Char('/');
-    return {qMin(i + 1, text.size()), 1 + 2 * attributes, isEmptyElement ? 0 : 1}; // a value is a node too
+    if (m_next != m_end)
+        ++m_next;
+    if (last != QLatin1Char('/'))
+        ++m_depth;
 }
 
-Markup readMarkup(QStringView text, qsizetype from)
+bool MarkupScan::skip(QStringView expected)
 {
-    const QStringView markup = text.mid(from);
-    if (markup.startsWith(u"</"))
-        return {skipPast(text, from, u">"), 0, -1};
-    if (markup.startsWith(u"<!--"))
-        return {skipPast(text, from + 4, u"-->")};
-    if (markup.startsWith(u"<![CDATA["))
-        return {skipPast(text, from + 9, u"]]>")};
-    if (markup.startsWith(u"<?"))
-        return {skipPast(text, from + 2, u"?>")};
-    if (markup.startsWith(u"<!"))
-        return {text.size(), 0, 0, true};
-    return readTag(text, from);
-}
-
-/// A scan of the markup alone, without recursion. Malformed text may be counted wrongly only where the parser
-/// stops at the same place.
-bool isBearable(QStringView text)
-{
-    qsizetype nodes = text.count(QLatin1Char('&')); // each may be a node of its own
-    int depth = 0;
-    qsizetype end = 0;
-    for (qsizetype i = text.indexOf(QLatin1Char('<')); i >= 0; i = text.indexOf(QLatin1Char('<'), end)) {
-        const int textBefore = i > end ? 1 : 0;
-        const Markup markup = readMarkup(text, i);
-        nodes += markup.nodes + textBefore;
-        depth += markup.levels;
-        if (markup.isDeclaration || depth > MaximumDepth || nodes > MaximumNodes)
-            return false;
-        end = markup.end;
-    }
+    if (m_end - m_next < expected.size() || !std::equal(expected.begin(), expected.end(), m_next))
+        return false;
+    m_next += expected.size();
     return true;
+}
+
+void MarkupScan::skipPast(QStringView end)
+{
+    m_next = std::search(m_next, m_end, end.begin(), end.end());
+    m_next += std::min<qptrdiff>(end.size(), m_end - m_next);
+}
+
+void MarkupScan::skipPast(QChar end)
+{
+    m_next = std::find(m_next, m_end, end);
+    if (m_next != m_end)
+        ++m_next;
 }
 
 } // namespace
 
 bool parseXml(const QString& text, QDomDocument* document)
 {
-    if (text.size() <= MaximumXmlLength && isBearable(text) && document->setContent(text))
+    if (text.size() <= MaximumXmlLength && MarkupScan(text).isBearable() && document->setContent(text))
         return true;
     document->clear(); // of what stood before the place where the parser gave up
     return false;
