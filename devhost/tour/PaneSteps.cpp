@@ -80,6 +80,7 @@ TourStep PaneSteps::logIn() const
     step.name = "Log in";
     step.act = [this] { return userInput::click(m_pages.shown<QPushButton>("LogIn_pushButton")); };
     step.box = loggedIn;
+    step.seconds = 10;
     step.retryBox = notLoggedIn;
     return step;
 }
