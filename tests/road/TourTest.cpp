@@ -1,0 +1,232 @@
+#include "devhost/tour/RoadPlayer.h"
+#include "devhost/tour/Screenshots.h"
+#include "devhost/tour/UserInput.h"
+#include "devhost/window/CommandLine.h"
+#include "devhost/window/MainWindow.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <memory>
+
+using devhost::Road;
+using devhost::Sight;
+using devhost::TourStep;
+/// Puts something between the hand and a button.
+using Obstacle = std::function<void(QWidget& window, QPushButton& button)>;
+
+Q_DECLARE_METATYPE(devhost::TourStep)
+Q_DECLARE_METATYPE(Obstacle)
+
+namespace
+{
+
+TourStep step(const QString& name, std::function<QString()> act, std::function<Sight()> look)
+{
+    TourStep made;
+    made.name = name;
+    made.act = std::move(act);
+    made.look = std::move(look);
+    made.seconds = 1;
+    return made;
+}
+
+QString openBox(const QString& text)
+{
+    QMessageBox(QMessageBox::Information, "Title", text, QMessageBox::Ok).exec();
+    return QString();
+}
+
+} // namespace
+
+/// A tour that overlooks something proves nothing: what its hand must not reach, and what must end a road.
+class TourTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void outOfReach_data();
+    void outOfReach();
+    void scrolledAwayIsScrolledTo();
+    void keysGoWhereTheFocusIs();
+
+    void stepsGoOnInsideOfBoxes();
+    void roadsEndAtTheFirstFailure_data();
+    void roadsEndAtTheFirstFailure();
+    void boxOfRetryHasTheStepDoneAgain();
+
+private:
+    bool play(const Road& road);
+
+    std::unique_ptr<test::FatalWarnings> m_warnings;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TourTest::init()
+{
+    m_warnings = std::make_unique<test::FatalWarnings>();
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void TourTest::cleanup()
+{
+    m_folder.reset();
+    m_warnings.reset();
+}
+
+bool TourTest::play(const Road& road)
+{
+    devhost::MainWindow window{devhost::HostSettings()};
+    window.show();
+    devhost::Screenshots screenshots(m_folder->path(), window);
+    return devhost::RoadPlayer(window, screenshots).play(road);
+}
+
+void TourTest::outOfReach_data()
+{
+    QTest::addColumn<Obstacle>("obstruct");
+    QTest::addColumn<QString>("named");
+    const auto row = [](const char* named, const Obstacle& obstruct) {
+        QTest::newRow(named) << obstruct << QString(named);
+    };
+    row("hidden", [](QWidget&, QPushButton& button) { button.hide(); });
+    row("disabled", [](QWidget&, QPushButton& button) { button.setEnabled(false); });
+    row("covered", [](QWidget& window, QPushButton& button) {
+        auto* cover = new QWidget(&window);
+        cover->setGeometry(button.geometry());
+        cover->show();
+    });
+    row("outside", [](QWidget& window, QPushButton& button) { button.move(window.width(), 0); });
+    row("behind", [](QWidget& window, QPushButton&) {
+        auto* box = new QMessageBox(&window);
+        box->setModal(true);
+        box->show();
+    });
+}
+
+void TourTest::outOfReach()
+{
+    QFETCH(const Obstacle, obstruct);
+    QFETCH(const QString, named);
+    QWidget window;
+    window.resize(200, 100);
+    auto* button = new QPushButton("Button", &window);
+    window.show();
+    QSignalSpy clicks(button, &QPushButton::clicked);
+    QCOMPARE(devhost::userInput::click(button), QString());
+    QCOMPARE(clicks.size(), 1);
+
+    obstruct(window, *button);
+    const QString problem = devhost::userInput::click(button);
+    QVERIFY2(problem.contains(named), qPrintable(problem));
+    QCOMPARE(clicks.size(), 1);
+}
+
+void TourTest::scrolledAwayIsScrolledTo()
+{
+    QScrollArea area;
+    area.resize(200, 200);
+    auto* content = new QWidget;
+    content->resize(150, 2000);
+    auto* button = new QPushButton("Button", content);
+    area.setWidget(content);
+    area.show();
+    QSignalSpy clicks(button, &QPushButton::clicked);
+    for (const int y : {1900, 20, 1000}) {
+        button->move(0, y);
+        QCOMPARE(devhost::userInput::click(button), QString());
+    }
+    QCOMPARE(clicks.size(), 3);
+}
+
+void TourTest::keysGoWhereTheFocusIs()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* first = new QLineEdit("old");
+    auto* second = new QLineEdit("other");
+    layout->addWidget(first);
+    layout->addWidget(second);
+    window.show();
+    const QString text = QString::fromUtf8("Größe M8 <x> 六角");
+    QCOMPARE(devhost::userInput::typeInto(first, text), QString());
+    QCOMPARE(first->text(), text);
+    QCOMPARE(second->text(), QString("other"));
+    first->setFocusPolicy(Qt::NoFocus);
+    second->setFocus();
+    QVERIFY(!devhost::userInput::typeInto(first, "lost").isEmpty());
+    QCOMPARE(second->text(), QString("other"));
+}
+
+void TourTest::stepsGoOnInsideOfBoxes()
+{
+    bool hasReturned = false;
+    TourStep opening = step(
+        "open a box",
+        [&] {
+            openBox("expected");
+            hasReturned = true;
+            return QString();
+        },
+        [&]() -> Sight {
+            return {hasReturned, "the box"};
+        });
+    opening.box = "expected";
+    QVERIFY(play({opening, step("be done", {}, [] { return Sight{true, "all"}; })}));
+    QCOMPARE(QDir(m_folder->path()).entryList({"*.png"}),
+             (QStringList{"01-open-a-box-box.png", "01-open-a-box.png", "02-be-done.png"}));
+}
+
+void TourTest::roadsEndAtTheFirstFailure_data()
+{
+    QTest::addColumn<TourStep>("failing");
+    const auto nothing = [] { return QString(); };
+    const auto seen = [] { return Sight{true, "the outcome"}; };
+    TourStep boxWanted = step("want a box", nothing, seen);
+    boxWanted.box = "wanted";
+    QTest::newRow("no outcome") << step("look in vain", nothing, [] { return Sight{false, "nothing"}; });
+    QTest::newRow("cannot be done") << step(
+        "reach in vain", [] { return QString("out of reach"); }, seen);
+    QTest::newRow("no box") << boxWanted;
+    QTest::newRow("a box nobody asked for") << step(
+        "open a box", [] { return openBox("unexpected"); }, seen);
+    boxWanted.act = [] { return openBox("another"); };
+    QTest::newRow("another box") << boxWanted;
+}
+
+void TourTest::roadsEndAtTheFirstFailure()
+{
+    QFETCH(const TourStep, failing);
+    bool wentOn = false;
+    const auto goOn = [&] {
+        wentOn = true;
+        return QString();
+    };
+    QVERIFY(!play({failing, step("go on", goOn, [] { return Sight{true, "more"}; })}));
+    QVERIFY(!wentOn);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(!QDir(m_folder->path()).entryList({"01-*-failed.png"}).isEmpty());
+}
+
+void TourTest::boxOfRetryHasTheStepDoneAgain()
+{
+    int tries = 0;
+    TourStep trying = step("try", [&] { return openBox(++tries < 3 ? "not yet" : "now"); }, {});
+    trying.box = "now";
+    trying.retryBox = "not yet";
+    trying.seconds = 20;
+    QVERIFY(play({trying}));
+    QCOMPARE(tries, 3);
+}
+
+QTEST_MAIN(TourTest)
+#include "TourTest.moc"
