@@ -144,7 +144,7 @@ TourStep PaneSteps::turnPages(const QStringList& pages) const
     step.act = [=]() -> QString {
         *before = m_pages.resultNames();
         for (const QString& page : pages) {
-            const QString problem = clickPageButton(page);
+            QString problem = clickPageButton(page);
             if (!problem.isEmpty())
                 return problem;
         }

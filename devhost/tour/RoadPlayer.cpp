@@ -101,7 +101,7 @@ void RoadPlayer::tick()
         meet(*box);
     else if (!isPlaying())
         leave();
-    else if (m_sinceStart.elapsed() > m_road.at(m_index).seconds * 1000)
+    else if (m_sinceStart.hasExpired(m_road.at(m_index).seconds * qint64(1000)))
         fail(QString("after %1 s: %2").arg(m_road.at(m_index).seconds).arg(m_lastSeen));
     else if (m_acted)
         look();

@@ -111,7 +111,7 @@ QString reach(QWidget* widget, const QPoint& position)
         return "it is not there";
     if (widget->isVisible())
         scrollIntoView(*widget, position);
-    const QString problem = obstacle(*widget, position);
+    QString problem = obstacle(*widget, position);
     if (!problem.isEmpty())
         return problem;
     if (!widget->isActiveWindow() && QApplication::activePopupWidget() == nullptr)
@@ -136,7 +136,7 @@ QString click(QWidget* widget)
 QString click(QWidget* widget, const QPoint& position)
 {
     const QPointer<QWidget> guard(widget);
-    const QString problem = moveMouse(widget, position);
+    QString problem = moveMouse(widget, position);
     if (!problem.isEmpty())
         return problem;
     if (guard.isNull())
@@ -160,7 +160,7 @@ QString clickItem(QAbstractItemView* view, const QModelIndex& index)
 
 QString moveMouse(QWidget* widget, const QPoint& position)
 {
-    const QString problem = reach(widget, position);
+    QString problem = reach(widget, position);
     if (problem.isEmpty())
         QTest::mouseMove(nativeWindow(*widget), nativePosition(*widget, position));
     return problem;
@@ -191,7 +191,7 @@ QString type(const QString& text)
 QString typeInto(QLineEdit* line, const QString& text)
 {
     const QPointer<QLineEdit> guard(line);
-    const QString problem = click(line);
+    QString problem = click(line);
     if (!problem.isEmpty())
         return problem;
     if (guard.isNull())
