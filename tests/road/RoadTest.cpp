@@ -15,7 +15,7 @@ using devcatalog::Part;
 namespace
 {
 
-constexpr int pageSize = 5;
+constexpr std::size_t pageSize = 5;
 constexpr int patience = 30000; // Milliseconds.
 
 QString text(const std::string& utf8)
@@ -53,19 +53,19 @@ private slots:
     void theLibraryMayGoWhileAReplyIsOnItsWay();
 
 private:
-    void compareRows(const QString& term, int page);
+    void compareRows(const QString& term, std::size_t page);
 
     std::unique_ptr<test::RoadFixture> m_road;
 };
 
-void RoadTest::compareRows(const QString& term, int page)
+void RoadTest::compareRows(const QString& term, std::size_t page)
 {
-    std::vector<const Part*> found = m_road->parts().search(term.toStdString());
-    found.erase(found.begin(), found.begin() + (page - 1) * pageSize);
+    const std::vector<const Part*> found = m_road->parts().search(term.toStdString());
+    const std::size_t first = (page - 1) * pageSize;
     const QVector<QWidget*> rows = m_road->rows();
-    QCOMPARE(rows.size(), qMin(pageSize, int(found.size())));
+    QCOMPARE(std::size_t(rows.size()), std::min(pageSize, found.size() - first));
     for (int row = 0; row < rows.size(); ++row) {
-        const Part& part = *found.at(std::size_t(row));
+        const Part& part = *found.at(first + std::size_t(row));
         const QWidget& shown = *rows.at(row);
         QCOMPARE(shown.findChild<QLabel*>("namevaluelabel")->text(), text(part.name));
         QCOMPARE(shown.findChild<QLabel*>("label")->text(), text(part.supplier));
@@ -91,7 +91,7 @@ void RoadTest::whatTheCatalogHoldsArrives()
     m_road->waitForResults(firstPage);
     compareRows(term, 2);
 
-    const int row = 1;
+    constexpr int row = 1;
     const Part& part = *m_road->parts().search(term.toStdString()).at(pageSize + row);
     const devcatalog::Configuration& configuration = part.configurations.back();
     m_road->openPart(row);
