@@ -34,8 +34,8 @@ Road start(const HostSteps& host, const PaneSteps& pane, const Options& options)
 /// One part is placed twice, in two views.
 Road firstSearch(const PaneSteps& pane, const PlacementSteps& placement, const QString& term)
 {
-    const QPointF left(0.25, 0.5);
-    const QPointF right(0.7, 0.4);
+    const QPointF upper(0.15, 0.3);
+    const QPointF lower(0.15, 0.7);
     return {
         pane.typeTerm(term),
         pane.pressReturn(),
@@ -49,13 +49,13 @@ Road firstSearch(const PaneSteps& pane, const PlacementSteps& placement, const Q
         pane.openViews(),
         pane.chooseView(" Front"),
         placement.clickPreview("0.dwg"),
-        placement.steerBlock(left),
-        placement.placeBlock(left),
+        placement.steerBlock(upper),
+        placement.placeBlock(upper),
         pane.openViews(),
         pane.chooseView(" Top"),
         placement.clickPreview("1.dwg"),
-        placement.steerBlock(right),
-        placement.placeBlock(right),
+        placement.steerBlock(lower),
+        placement.placeBlock(lower),
 
         pane.goBackToResults(),
         pane.turnPage("1"),
@@ -72,7 +72,7 @@ Road secondSearch(const PaneSteps& pane, const PlacementSteps& placement, const 
         pane.turnPages({"2", "3", "2"}),
         pane.openResultWhileTurning(1, "1"),
         placement.clickPreview("2.dwg"),
-        placement.steerBlock(QPointF(0.5, 0.8)),
+        placement.steerBlock(QPointF(0.6, 0.5)),
         placement.cancelPlacement(),
         pane.goBackToResults(),
         pane.goBackToSearch(),

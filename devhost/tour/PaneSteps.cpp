@@ -30,6 +30,15 @@ QString quoted(const QStringList& texts)
     return '"' + texts.join("\", \"") + '"';
 }
 
+/// @return what a person calls the pages behind those buttons.
+QString namesOf(const QStringList& pages)
+{
+    QStringList names;
+    for (const QString& page : pages)
+        names.append(page == "<" ? "the previous page" : page == ">" ? "the next page" : "page " + page);
+    return names.join(", ");
+}
+
 int countDifferentPictures(const QVector<ResultRow>& rows)
 {
     constexpr int edge = 256; // Pixels; larger than a thumbnail, which is not enlarged.
@@ -140,7 +149,7 @@ TourStep PaneSteps::turnPages(const QStringList& pages) const
 {
     const auto before = std::make_shared<QStringList>();
     TourStep step;
-    step.name = "Turn to page " + pages.join(", ");
+    step.name = "Turn to " + namesOf(pages);
     step.act = [=]() -> QString {
         *before = m_pages.resultNames();
         for (const QString& page : pages) {
