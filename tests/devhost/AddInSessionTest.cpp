@@ -124,6 +124,8 @@ void AddInSessionTest::wrongOptionsAreNamed_data()
     QTest::newRow("theme") << QStringList{"--theme", "blue"} << "--theme";
     QTest::newRow("catalog") << QStringList{"--catalog", "remote"} << "--catalog";
     QTest::newRow("account") << QStringList{"--account", "me"} << "--account";
+    QTest::newRow("drawings") << QStringList{"--drawings", "torn"} << "--drawings";
+    QTest::newRow("size") << QStringList{"--size", "1280 by 800"} << "--size";
     QTest::newRow("positional") << QStringList{"part.dwg"} << "part.dwg";
 }
 
