@@ -30,6 +30,13 @@ Point2 DrawingPiece::middle() const
             (from.y + to.y) / 2 - bulge * (to.x - from.x) / 2};
 }
 
+bool DrawingPiece::mayReach(const Point2& point, double tolerance) const
+{
+    // An arc's diameter is its chord, or more by its bulge.
+    const double reach = length() * std::max(1.0, (std::abs(bulge) + 1 / std::max(std::abs(bulge), 1.0)) / 2);
+    return std::hypot(point.x - from.x, point.y - from.y) <= reach + length() + tolerance;
+}
+
 double DrawingPiece::distanceTo(const Point2& point) const
 {
     // Halved until the pieces are as good as straight.

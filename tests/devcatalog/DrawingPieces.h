@@ -20,6 +20,8 @@ struct DrawingPiece {
     bool isVertical() const;
     double length() const; ///< Of the chord.
     devcatalog::Point2 middle() const;
+    /// A quick check; where it says no, distanceTo is beyond the tolerance.
+    bool mayReach(const devcatalog::Point2& point, double tolerance) const;
     double distanceTo(const devcatalog::Point2& point) const;
     QString toString() const;
 };

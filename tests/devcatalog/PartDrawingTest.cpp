@@ -115,6 +115,30 @@ bool same(const DrawingPiece& a, const DrawingPiece& b)
             (near(a.from, b.to) && near(a.to, b.from) && std::abs(a.bulge + b.bulge) < 1e-3));
 }
 
+/// The ends of outlines that lie on no other outline.
+std::vector<Point2> looseEnds(const Drawing& drawing)
+{
+    const Extents extents = extentsOf(drawing.entities).value();
+    const double tolerance = 1e-3 * std::max(extents.width(), extents.height());
+    const auto circles = circlesOf(drawing, LineKind::Outline);
+    const auto pieces = piecesOf(drawing);
+    std::vector<Point2> loose;
+    for (const DrawingPiece& piece : pieces)
+        for (const Point2& end : {piece.from, piece.to}) {
+            const bool onPiece = std::any_of(pieces.begin(), pieces.end(), [&](const DrawingPiece& other) {
+                return &other != &piece && other.kind == LineKind::Outline &&
+                       other.mayReach(end, tolerance) && other.distanceTo(end) < tolerance;
+            });
+            const bool onCircle = std::any_of(circles.begin(), circles.end(), [&](const Circle& circle) {
+                const double distance = std::hypot(end.x - circle.centre.x, end.y - circle.centre.y);
+                return std::abs(distance - circle.radius) < tolerance;
+            });
+            if (piece.kind == LineKind::Outline && !onPiece && !onCircle)
+                loose.push_back(end);
+        }
+    return loose;
+}
+
 QImage thumbnail(const Part& part, int width, int height)
 {
     const std::string png = drawThumbnail(part, width, height);
@@ -132,6 +156,8 @@ private slots:
     void everyFamilyDrawsEveryView();
     void nothingIsDrawnTwice_data();
     void nothingIsDrawnTwice();
+    void outlinesEndOnOneAnother_data();
+    void outlinesEndOnOneAnother();
     void everyPartDraws();
     void extentsFollowFromTheDimensions_data();
     void extentsFollowFromTheDimensions();
@@ -141,6 +167,8 @@ private slots:
     void blindHoleIsSeenFromItsMouthOnly();
     void crosswiseHolesShowInTheFacesTheyPierce();
     void gearHasItsTeethAndItsPitchCircle();
+    void springLooksAlikeFromAllSides_data();
+    void springLooksAlikeFromAllSides();
     void multipleViewsLieBesideOneAnother();
     void viewsWithoutADrawing();
     void refusesWhatItCannotBuild();
@@ -220,6 +248,29 @@ void PartDrawingTest::nothingIsDrawnTwice()
                 if (straight ? overlap(pieces[i], pieces[j]) : same(pieces[i], pieces[j]))
                     QFAIL(qPrintable(view + ": " + pieces[i].toString() + " and " + pieces[j].toString()));
             }
+    }
+}
+
+void PartDrawingTest::outlinesEndOnOneAnother_data()
+{
+    addFamilyRows(sideViews + pictorialViews);
+}
+
+/// An edge that ends nowhere has been taken for hidden by mistake.
+void PartDrawingTest::outlinesEndOnOneAnother()
+{
+    QFETCH(const Part*, part);
+    QFETCH(QStringList, views);
+    // The outlines of bent wires do end where the wire turns from the viewer, and the circle of an internal
+    // thread is left open.
+    if (QStringList{"compression-spring", "bridge-handle", "hex-nut"}.contains(part->family.c_str()))
+        QSKIP("has loose ends by nature");
+    for (const QString& view : views) {
+        if (!supports(*part, view))
+            continue;
+        const Drawing drawing = drawn(*part, view);
+        for (const Point2& end : looseEnds(drawing))
+            QFAIL(qPrintable(QString("%1 at %2, %3").arg(view).arg(end.x).arg(end.y)));
     }
 }
 
@@ -418,6 +469,29 @@ void PartDrawingTest::gearHasItsTeethAndItsPitchCircle()
     const auto side = piecesOf(drawn(gear(), "RIGHT"));
     QCOMPARE(count(side, LineKind::Centre, &DrawingPiece::isHorizontal), 3U);
     QVERIFY(side.size() < 25);
+}
+
+void PartDrawingTest::springLooksAlikeFromAllSides_data()
+{
+    QTest::addColumn<const Part*>("part");
+    for (const Part& part : m_catalog.parts())
+        if (part.family == "compression-spring" && supports(part, "FRONT"))
+            QTest::newRow(qPrintable(QString::fromStdString(part.supplier + ": " + part.name))) << &part;
+}
+
+/// Its ends differ from side to side, but not one of its turns.
+void PartDrawingTest::springLooksAlikeFromAllSides()
+{
+    QFETCH(const Part*, part);
+    const auto outlineLength = [part](const QString& view) {
+        double sum = 0;
+        for (const DrawingPiece& piece : piecesOf(drawn(*part, view)))
+            sum += piece.kind == LineKind::Outline ? piece.length() : 0;
+        return sum;
+    };
+    const double front = outlineLength("FRONT");
+    for (const char* view : {"RIGHT", "BACK", "LEFT"})
+        QVERIFY2(std::abs(outlineLength(view) / front - 1) < 0.05, view);
 }
 
 void PartDrawingTest::multipleViewsLieBesideOneAnother()

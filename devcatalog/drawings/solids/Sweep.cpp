@@ -10,8 +10,10 @@ namespace devcatalog
 namespace
 {
 
-constexpr int facetsAround = 16;
-constexpr double facetAngle = pi / 30;
+constexpr int facetsAround = 32;
+constexpr double facetAngle = pi / 40;
+// A little less than the radius, so that outlines never lie on the border of a facet.
+constexpr double within = 0.999;
 
 /// A unit vector at a right angle to a direction.
 Vector3 perpendicularTo(const Vector3& direction)
@@ -23,16 +25,6 @@ bool seenEndOn(const Curve& piece, const Vector3& toward)
 {
     return std::holds_alternative<LineCurve>(piece) &&
            length(cross(normalized(derivativeAt(piece, 0)), toward)) < 1e-9;
-}
-
-std::vector<Vector3> ring(const Vector3& centre, const Vector3& tangent, const Vector3& u, double radius)
-{
-    const Frame frame = Frame::at(centre, tangent, u);
-    std::vector<Vector3> points;
-    points.reserve(facetsAround);
-    for (int i = 0; i < facetsAround; ++i)
-        points.push_back(frame.polar(radius, 2 * pi * i / facetsAround, 0));
-    return points;
 }
 
 /// The curvature of a spine at one of its samples, as a vector toward the centre of the bend.
@@ -66,6 +58,19 @@ std::vector<Station> selectStations(const std::vector<Curve>& spine)
     return stations;
 }
 
+/// Where a spine bends, straight facets cut the corner and would stand out of the bar on the inner side.
+/// @return by how much, as a vector to the inner side.
+Vector3 innerExcess(const std::vector<Station>& stations, std::size_t i)
+{
+    const Station& before = stations[i == 0 ? 0 : i - 1];
+    const Station& after = stations[std::min(i + 1, stations.size() - 1)];
+    const Vector3 turn = after.tangent - before.tangent;
+    // An arc's height over its chord is an eighth of the chord times the angle; two chords meet at an inner
+    // station.
+    const double chords = i == 0 || i + 1 == stations.size() ? 1 : 2;
+    return length(after.centre - before.centre) / (8 * chords * chords) * turn;
+}
+
 } // namespace
 
 Sweep::Sweep(std::vector<Curve> spine, double radius) : m_spine(std::move(spine)), m_radius(radius)
@@ -78,58 +83,60 @@ Sweep::Sweep(std::vector<Curve> spine, double radius) : m_spine(std::move(spine)
 void Sweep::addEnd(const Vector3& centre, const Vector3& outward)
 {
     const Frame frame = Frame::at(centre, outward, perpendicularTo(outward));
+    Face end{{{}}, outward};
+    for (int i = 0; i < facetsAround; ++i)
+        end.loops.front().push_back(frame.polar(m_radius, 2 * pi * i / facetsAround, 0));
+    m_faces.push_back(end);
     m_ends.push_back(circleAround(frame, m_radius, 0));
-    m_faces.push_back({{ring(centre, outward, frame.x, m_radius)}, outward});
 }
 
 void Sweep::addFaces()
 {
     const std::vector<Station> stations = selectStations(m_spine);
-    // Where the spine bends, straight facets cut the corner and would stand out on the inner side.
-    double excess = 0;
-    for (std::size_t i = 1; i < stations.size(); ++i) {
-        const double turn =
-            std::acos(std::clamp(dot(stations[i - 1].tangent, stations[i].tangent), -1.0, 1.0));
-        const double chord = length(stations[i].centre - stations[i - 1].centre);
-        excess = std::max(excess, chord / 2 * std::tan(turn / 4));
-    }
     Vector3 u = perpendicularTo(stations.front().tangent);
     std::vector<Vector3> previous;
-    for (const Station& station : stations) {
+    for (std::size_t i = 0; i < stations.size(); ++i) {
         // Carried along without twisting.
+        const Station& station = stations[i];
         u = normalized(u - dot(u, station.tangent) * station.tangent);
-        const std::vector<Vector3> current = ring(station.centre, station.tangent, u, m_radius - excess);
-        for (std::size_t i = 0; i < previous.size(); ++i) {
-            const std::size_t next = (i + 1) % previous.size();
-            m_faces.push_back(quadrangle(previous[i], previous[next], current[next], current[i]));
+        const Vector3 excess = innerExcess(stations, i);
+        std::vector<Vector3> ring;
+        for (int side = 0; side < facetsAround; ++side) {
+            const Vector3 outward =
+                Frame::at({}, station.tangent, u).polar(1, 2 * pi * side / facetsAround, 0);
+            ring.push_back(station.centre +
+                           (within * m_radius - std::max(0.0, dot(outward, excess))) * outward);
         }
-        previous = current;
+        for (std::size_t side = 0; side < previous.size(); ++side) {
+            const std::size_t next = (side + 1) % previous.size();
+            m_faces.push_back(quadrangle(previous[side], previous[next], ring[next], ring[side]));
+        }
+        previous = ring;
     }
 }
 
 void Sweep::appendCurves(std::vector<Curve>& curves, const Vector3& toward) const
 {
     curves.insert(curves.end(), m_ends.begin(), m_ends.end());
-    for (const Curve& piece : m_spine)
-        if (seenEndOn(piece, toward))
-            appendOutlineEndOn(curves, piece, toward);
+    for (std::size_t i = 0; i < m_spine.size(); ++i)
+        if (seenEndOn(m_spine[i], toward))
+            appendOutlineEndOn(curves, i, toward);
         else
             for (const double side : {1.0, -1.0})
-                appendOutline(curves, piece, side, toward);
+                appendOutline(curves, m_spine[i], side, toward);
 }
 
-/// A straight part that is seen end on looks like its end, in so far as the bar does not bend away in front
-/// of it.
-void Sweep::appendOutlineEndOn(std::vector<Curve>& curves, const Curve& piece, const Vector3& toward) const
+/// A straight part that is seen end on, behind a bend, is round on the side that the bend turns away from.
+void Sweep::appendOutlineEndOn(std::vector<Curve>& curves, std::size_t index, const Vector3& toward) const
 {
-    const Vector3 nearer = pointAt(piece, dot(derivativeAt(piece, 0), toward) > 0 ? 1 : 0);
-    ArcCurve quarter = circleAround(Frame::at(nearer, toward, perpendicularTo(toward)), m_radius, 0);
-    // In quarters, because a bend hides half of it without another curve that tells where.
-    for (int i = 0; i < 4; ++i) {
-        quarter.from = i * pi / 2;
-        quarter.to = (i + 1) * pi / 2;
-        curves.emplace_back(quarter);
-    }
+    const bool endIsNearer = dot(derivativeAt(m_spine[index], 0), toward) > 0;
+    if (index == (endIsNearer ? m_spine.size() - 1 : 0))
+        return; // Its end face is in front.
+    const Vector3 centre = pointAt(m_spine[index], endIsNearer ? 1 : 0);
+    const Curve& bend = m_spine[endIsNearer ? index + 1 : index - 1];
+    const Vector3 offset = pointAt(bend, endIsNearer ? 1 : 0) - centre;
+    const Vector3 away = normalized(dot(offset, toward) * toward - offset);
+    curves.emplace_back(ArcCurve{centre, m_radius * cross(away, toward), m_radius * away, 0, pi});
 }
 
 /// The outline on one side of the spine, in the parts that the bar itself does not hide.
@@ -146,14 +153,15 @@ void Sweep::appendOutline(std::vector<Curve>& curves, const Curve& piece, double
     };
     const std::vector<double> samples = samplesOf(piece);
     for (std::size_t i = 0; i < samples.size(); ++i) {
-        const Vector3 tangent = normalized(derivativeAt(piece, samples[i]));
+        // A little within the piece, for at its end the spine may point at the viewer.
+        const double t = std::clamp(samples[i], 1e-6, 1 - 1e-6);
+        const Vector3 tangent = normalized(derivativeAt(piece, t));
         const Vector3 across = cross(tangent, toward);
-        const Vector3 normal = side * across;
-        const Vector3 bend = curvature(piece, samples, i);
-        if (length(across) < 1e-9 || turnsInward(tangent, normalized(normal), bend, toward))
+        const Vector3 normal = normalized(side * across);
+        if (length(across) < 1e-9 || turnsInward(tangent, normal, curvature(piece, samples, i), toward))
             finish();
         else
-            outline.points.push_back(pointAt(piece, samples[i]) + m_radius * normalized(normal));
+            outline.points.push_back(pointAt(piece, samples[i]) + m_radius * normal);
     }
     finish();
 }

@@ -16,7 +16,7 @@ public:
 
 private:
     void addFaces();
-    void appendOutlineEndOn(std::vector<Curve>& curves, const Curve& piece, const Vector3& toward) const;
+    void appendOutlineEndOn(std::vector<Curve>& curves, std::size_t index, const Vector3& toward) const;
     void appendOutline(std::vector<Curve>& curves, const Curve& piece, double side,
                        const Vector3& toward) const;
     bool turnsInward(const Vector3& tangent, const Vector3& normal, const Vector3& bend,

@@ -43,9 +43,22 @@ bool isLine(const Curve& curve)
 {
     return std::holds_alternative<LineCurve>(curve);
 }
+bool isArc(const Curve& curve)
+{
+    return std::holds_alternative<ArcCurve>(curve);
+}
 bool isPath(const Curve& curve)
 {
     return std::holds_alternative<PathCurve>(curve);
+}
+
+bool isStraight(const std::vector<Point2>& points, double tolerance)
+{
+    const Point2 direction = minus(points.back(), points.front());
+    const double size = std::hypot(direction.x, direction.y);
+    return size > tolerance && std::all_of(points.begin(), points.end(), [&](const Point2& point) {
+               return std::abs(cross(direction, minus(point, points.front()))) <= size * tolerance;
+           });
 }
 
 bool hasEnds(const Curve& curve)
@@ -69,6 +82,9 @@ CurveSplitter::Flat CurveSplitter::flatten(const Curve& curve) const
     flat.parameters = samplesOf(curve);
     for (const double t : flat.parameters)
         flat.points.push_back(m_camera.project(pointAt(curve, t)));
+    // An arc reaches beyond its chords by a little, which is where outlines touch it.
+    const auto* arc = std::get_if<ArcCurve>(&curve);
+    const double reach = arc ? 0.001 * length(arc->u) : 0;
     flat.lower = flat.upper = flat.points.front();
     for (std::size_t first = 0; first + 1 < flat.points.size(); first += segmentsPerStretch) {
         Stretch stretch;
@@ -79,10 +95,13 @@ CurveSplitter::Flat CurveSplitter::flatten(const Curve& curve) const
             stretch.lower = lowerOf(stretch.lower, flat.points[i]);
             stretch.upper = upperOf(stretch.upper, flat.points[i]);
         }
+        stretch.lower = {stretch.lower.x - reach, stretch.lower.y - reach};
+        stretch.upper = {stretch.upper.x + reach, stretch.upper.y + reach};
         flat.lower = lowerOf(flat.lower, stretch.lower);
         flat.upper = upperOf(flat.upper, stretch.upper);
         flat.stretches.push_back(stretch);
     }
+    flat.straight = isStraight(flat.points, m_tolerance);
     return flat;
 }
 
@@ -115,10 +134,12 @@ void CurveSplitter::crossTwo(std::size_t i, std::size_t j)
                                upperOf(one.points[a], one.points[a + 1]),
                                lowerOf(other.points[b], other.points[b + 1]),
                                upperOf(other.points[b], other.points[b + 1]), m_tolerance))
-                        crossSegments(i, a, j, b);
+                        crossSegments({i, a}, {j, b});
         }
     if (i == j)
         return;
+    touchSideways(i, j);
+    touchSideways(j, i);
     if (hasEnds(m_curves[i])) {
         touch(one.points.front(), j);
         touch(one.points.back(), j);
@@ -129,49 +150,106 @@ void CurveSplitter::crossTwo(std::size_t i, std::size_t j)
     }
 }
 
-void CurveSplitter::crossSegments(std::size_t i, std::size_t a, std::size_t j, std::size_t b)
+void CurveSplitter::crossSegments(const Segment& one, const Segment& other)
 {
-    const Flat& one = m_flats[i];
-    const Flat& other = m_flats[j];
-    const Point2 u = minus(one.points[a + 1], one.points[a]);
-    const Point2 v = minus(other.points[b + 1], other.points[b]);
+    const Flat& flatOne = m_flats[one.curve];
+    const Flat& flatOther = m_flats[other.curve];
+    const Point2 from = flatOne.points[one.index];
+    const Point2 u = minus(flatOne.points[one.index + 1], from);
+    const Point2 v = minus(flatOther.points[other.index + 1], flatOther.points[other.index]);
     const double denominator = cross(u, v);
     if (std::abs(denominator) <= 1e-9 * std::sqrt(dot(u, u) * dot(v, v)))
         return;
-    const Point2 between = minus(other.points[b], one.points[a]);
-    const double onU = cross(between, v) / denominator;
-    const double onV = cross(between, u) / denominator;
-    // Chords fall short of their arcs, so near misses count until the true curves have been asked.
-    constexpr double slack = 0.05;
-    if (onU < -slack || onU > 1 + slack || onV < -slack || onV > 1 + slack)
+    const Point2 between = minus(flatOther.points[other.index], from);
+    const double onOne = cross(between, v) / denominator;
+    const double onOther = cross(between, u) / denominator;
+    if (!isWithin(one, onOne) || !isWithin(other, onOther))
         return;
-    double s = one.parameters[a] + onU * (one.parameters[a + 1] - one.parameters[a]);
-    double t = other.parameters[b] + onV * (other.parameters[b + 1] - other.parameters[b]);
-    if (!refineCrossing(i, s, j, t))
+    double s = flatOne.parameterAt(one.index, onOne);
+    double t = flatOther.parameterAt(other.index, onOther);
+    if (!refineCrossing(one, s, other, t))
         return;
-    m_splits[i].push_back(s);
-    m_splits[j].push_back(t);
+    m_splits[one.curve].push_back(s);
+    m_splits[other.curve].push_back(t);
 }
 
-/// Newton's method on the two parameters.
-/// @return whether the curves meet there.
-bool CurveSplitter::refineCrossing(std::size_t i, double& s, std::size_t j, double& t) const
+/// Chords fall short of their arcs, so on arcs near misses count until the true curves have been asked.
+bool CurveSplitter::isWithin(const Segment& segment, double fraction) const
 {
-    const int steps = isLine(m_curves[i]) && isLine(m_curves[j]) ? 0 : 3;
-    for (int step = 0; step < steps; ++step) {
-        const Point2 gap = minus(flatPoint(j, t), flatPoint(i, s));
-        const Point2 u = flatDerivative(i, s);
-        const Point2 v = flatDerivative(j, t);
+    const double slack = isArc(m_curves[segment.curve]) ? 0.05 : 1e-9;
+    return fraction > -slack && fraction < 1 + slack;
+}
+
+/// Newton's method on the two parameters; where neither curve is an arc, the chords have met already.
+/// @return whether the curves meet there.
+bool CurveSplitter::refineCrossing(const Segment& one, double& s, const Segment& other, double& t) const
+{
+    for (int step = 0; step < 4; ++step) {
+        const Point2 gap = minus(pointOn(other, t), pointOn(one, s));
+        const Point2 u = derivativeOn(one, s);
+        const Point2 v = derivativeOn(other, t);
         const double denominator = cross(u, v);
-        if (std::abs(denominator) < 1e-12)
+        if (std::hypot(gap.x, gap.y) < 1e-3 * m_tolerance || std::abs(denominator) < 1e-12)
             break;
-        s = std::clamp(s + cross(gap, v) / denominator, 0.0, 1.0);
-        t = std::clamp(t + cross(gap, u) / denominator, 0.0, 1.0);
+        s += cross(gap, v) / denominator;
+        t += cross(gap, u) / denominator;
     }
-    if (s < 0 || s > 1 || t < 0 || t > 1)
-        return false;
-    const Point2 gap = minus(flatPoint(j, t), flatPoint(i, s));
+    s = std::clamp(s, 0.0, 1.0);
+    t = std::clamp(t, 0.0, 1.0);
+    const Point2 gap = minus(pointOn(other, t), pointOn(one, s));
     return std::hypot(gap.x, gap.y) < m_tolerance;
+}
+
+/// The point of the curve; a straight segment goes on beyond its ends.
+Point2 CurveSplitter::pointOn(const Segment& segment, double t) const
+{
+    if (isArc(m_curves[segment.curve]))
+        return flatPoint(segment.curve, t);
+    const Flat& flat = m_flats[segment.curve];
+    const double from = flat.parameters[segment.index];
+    const Point2 direction = derivativeOn(segment, t);
+    return {flat.points[segment.index].x + (t - from) * direction.x,
+            flat.points[segment.index].y + (t - from) * direction.y};
+}
+
+Point2 CurveSplitter::derivativeOn(const Segment& segment, double t) const
+{
+    if (isArc(m_curves[segment.curve]))
+        return flatDerivative(segment.curve, t);
+    const Flat& flat = m_flats[segment.curve];
+    const Point2 chord = minus(flat.points[segment.index + 1], flat.points[segment.index]);
+    const double span = flat.parameters[segment.index + 1] - flat.parameters[segment.index];
+    return {chord.x / span, chord.y / span};
+}
+
+/// Splits an arc, and what looks like a line, where one touches the other without crossing it, as the outline
+/// of a cylinder touches all circles on it.
+void CurveSplitter::touchSideways(std::size_t line, std::size_t arc)
+{
+    const auto* circle = std::get_if<ArcCurve>(&m_curves[arc]);
+    if (!circle || !m_flats[line].straight)
+        return;
+    const Point2 start = m_flats[line].points.front();
+    const Point2 direction = minus(m_flats[line].points.back(), start);
+    const double size = std::hypot(direction.x, direction.y);
+    const Point2 across{-direction.y / size, direction.x / size};
+    const double u = dot(across, m_camera.project(circle->u));
+    const double v = dot(across, m_camera.project(circle->v));
+    if (std::hypot(u, v) < m_tolerance)
+        return;
+    for (const double angle : {std::atan2(v, u), std::atan2(-v, -u)}) {
+        const double turn = std::remainder(angle - circle->from, 2 * pi) / circle->sweep();
+        const double t = turn < 0 ? turn + 2 * pi / std::abs(circle->sweep()) : turn;
+        if (t > 1)
+            continue;
+        const Point2 point = flatPoint(arc, t);
+        const double along = dot(minus(point, start), direction);
+        if (std::abs(dot(minus(point, start), across)) > m_tolerance || along < -m_tolerance * size ||
+            along > (size + m_tolerance) * size)
+            continue;
+        m_splits[arc].push_back(t);
+        touch(point, line);
+    }
 }
 
 /// Splits a curve where another's end lies on it.

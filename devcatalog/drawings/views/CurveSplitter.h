@@ -34,15 +34,30 @@ private:
         std::vector<double> parameters;
         std::vector<Point2> points;
         std::vector<Stretch> stretches;
+        bool straight = false; ///< Looks like a line, whatever it is.
         Point2 lower;
         Point2 upper;
+
+        double parameterAt(std::size_t segment, double fraction) const
+        {
+            return parameters[segment] + fraction * (parameters[segment + 1] - parameters[segment]);
+        }
+    };
+
+    struct Segment {
+        std::size_t curve = 0;
+        std::size_t index = 0;
     };
 
     Flat flatten(const Curve& curve) const;
     void crossTwo(std::size_t i, std::size_t j);
-    void crossSegments(std::size_t i, std::size_t a, std::size_t j, std::size_t b);
+    void crossSegments(const Segment& one, const Segment& other);
+    bool isWithin(const Segment& segment, double fraction) const;
+    void touchSideways(std::size_t line, std::size_t arc);
     void touch(const Point2& end, std::size_t j);
-    bool refineCrossing(std::size_t i, double& s, std::size_t j, double& t) const;
+    bool refineCrossing(const Segment& one, double& s, const Segment& other, double& t) const;
+    Point2 pointOn(const Segment& segment, double t) const;
+    Point2 derivativeOn(const Segment& segment, double t) const;
     Point2 flatPoint(std::size_t i, double t) const;
     Point2 flatDerivative(std::size_t i, double t) const;
 

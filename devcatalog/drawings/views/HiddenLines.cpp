@@ -4,6 +4,7 @@
 #include "devcatalog/drawings/views/Occluder.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace devcatalog
@@ -13,7 +14,7 @@ namespace
 {
 
 /// Where between two splits a curve is probed: off the middle, where symmetric parts have things in line.
-constexpr double probe = 0.4871;
+constexpr std::array<double, 3> probes = {0.4871, 0.2113, 0.7837};
 
 struct Candidate {
     Curve curve;
@@ -77,6 +78,16 @@ struct Piece {
     Point2 end;
 };
 
+/// Whether a curve is hidden between two splits. It is so all along or nowhere, but facets stand in for round
+/// surfaces, so that two probes of three decide.
+bool isHidden(const Curve& curve, double from, double to, const Occluder& occluder)
+{
+    const auto count = std::count_if(probes.begin(), probes.end(), [&](double probe) {
+        return occluder.hides(pointAt(curve, from + probe * (to - from)));
+    });
+    return count > 1;
+}
+
 std::vector<Piece> piecesOf(const Candidate& candidate, const std::vector<double>& splits,
                             const Camera& camera, const Occluder& occluder)
 {
@@ -88,7 +99,7 @@ std::vector<Piece> piecesOf(const Candidate& candidate, const std::vector<double
         piece.to = splits[i + 1];
         if (piece.to - piece.from < 1e-6)
             continue;
-        piece.hidden = occluder.hides(pointAt(candidate.curve, piece.from + probe * (piece.to - piece.from)));
+        piece.hidden = isHidden(candidate.curve, piece.from, piece.to, occluder);
         piece.start = seen(piece.from);
         piece.middle = seen((piece.from + piece.to) / 2);
         piece.end = seen(piece.to);

@@ -12,7 +12,9 @@ namespace devcatalog
 namespace
 {
 
-constexpr double anglePerVertex = pi / 12;
+constexpr double anglePerVertex = pi / 20;
+// Of three neighbouring points on a smooth curve; in a cusp they do not lie on an arc.
+constexpr double sharpestBulge = 0.5;
 
 double distance(const Point2& a, const Point2& b)
 {
@@ -135,8 +137,13 @@ void LineWork::addPath(LineKind kind, const std::vector<Point2>& points)
 {
     Path path{kind, {}};
     std::size_t i = 0;
-    for (; i + 2 < points.size(); i += 2)
-        path.vertices.push_back({points[i], bulgeThrough(points[i], points[i + 1], points[i + 2])});
+    for (; i + 2 < points.size(); i += 2) {
+        const double bulge = bulgeThrough(points[i], points[i + 1], points[i + 2]);
+        const bool turnsBack = std::abs(bulge) > sharpestBulge;
+        path.vertices.push_back({points[i], turnsBack ? 0 : bulge});
+        if (turnsBack)
+            path.vertices.push_back({points[i + 1], 0});
+    }
     for (; i < points.size(); ++i)
         path.vertices.push_back({points[i], 0});
     if (path.vertices.size() == 2 && coincide(path.vertices.front().point, path.vertices.back().point))
