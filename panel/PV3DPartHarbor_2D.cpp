@@ -30,11 +30,21 @@ PV3DPartHarbor_2D::PV3DPartHarbor_2D(pvApplication_c* application, QWidget* pare
     connect(m_sectionButtons, SIGNAL(buttonClicked(int)), this, SLOT(CategoryButtonPressed(int)));
     connect(m_searchButton, SIGNAL(clicked()), this, SLOT(on_line_edit()));
     connect(m_searchLine, SIGNAL(returnPressed()), this, SLOT(on_line_edit()));
-    // The panel accepts focus but swallows the keys that would lead on from it.
+    // The panel accepts focus but swallows the keys that would lead on from it. Its proxy is where Tab comes
+    // in, so the section follows.
     setFocusProxy(m_searchLine);
+    setTabOrder(m_searchButton, m_form->PH_2DTabPage);
+    setTabOrder(m_form->PH_2DTabPage, m_searchHeader);
 }
 
-PV3DPartHarbor_2D::~PV3DPartHarbor_2D() = default;
+PV3DPartHarbor_2D::~PV3DPartHarbor_2D()
+{
+    if (m_starting) {
+        // The pane goes under a box that Return has opened: the line edit is still handling the key.
+        m_searchLine->setParent(nullptr);
+        m_searchLine->deleteLater();
+    }
+}
 
 void PV3DPartHarbor_2D::buildPanel()
 {
@@ -80,10 +90,18 @@ void PV3DPartHarbor_2D::CategoryButtonPressed(int id)
 
 void PV3DPartHarbor_2D::on_line_edit()
 {
-    if (m_searchLine->text().isEmpty()) {
+    const QPointer<PV3DPartHarbor_2D> self(this); // a box may open, during which the pane may go
+    m_starting = true;
+    if (m_searchLine->text().isEmpty())
         showErrorBox(QObject::tr("Please enter Search string"));
-        return;
-    }
+    else
+        startSearch();
+    if (!self.isNull())
+        m_starting = false;
+}
+
+void PV3DPartHarbor_2D::startSearch()
+{
     SearchTerm = m_searchLine->text();
     hide();
     QWidget* const container = parentWidget();
@@ -91,7 +109,7 @@ void PV3DPartHarbor_2D::on_line_edit()
     m_resultsPage = new PartHarbor_2D(m_application, container);
 
     const QPointer<PV3DPartHarbor_2D> self(this);
-    m_resultsPage->startSearch(); // may open a box, during which the pane may go
+    m_resultsPage->startSearch();
     if (self.isNull())
         return;
     delete m_parentLayout->replaceWidget(this, m_resultsPage, Qt::FindChildrenRecursively);

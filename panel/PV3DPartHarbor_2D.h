@@ -59,6 +59,7 @@ protected:
 private:
     void buildPanel();
     void buildSearchRow();
+    void startSearch();
 
     PartHarbor_2D* m_resultsPage = nullptr;
     pvApplication_c* m_application;
@@ -71,4 +72,5 @@ private:
     std::unique_ptr<QList<QTreeWidgetItem*>> m_sectionItems;
     QLineEdit* m_searchLine = nullptr;
     QPushButton* m_searchButton = nullptr;
+    bool m_starting = false; // on_line_edit is running
 };

@@ -121,8 +121,9 @@ void PartHarbor_2D::fillTable()
         row->deleteLater();
     m_form->tableWidget->clear();
     readResults();
+    QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
-        addRow(row);
+        control = addRow(row)->followInTabOrder(control);
 }
 
 void PartHarbor_2D::readResults()
@@ -141,7 +142,7 @@ void PartHarbor_2D::readResults()
     }
 }
 
-void PartHarbor_2D::addRow(int row)
+TableItem* PartHarbor_2D::addRow(int row)
 {
     auto* item = new TableItem(this, this);
     item->setSupplierName(m_supplierNames[row]);
@@ -157,6 +158,7 @@ void PartHarbor_2D::addRow(int row)
         item->hide(); // it has no cell, and would show up in the page's corner
     }
     m_lastRow = item;
+    return item;
 }
 
 void PartHarbor_2D::releaseRow(TableItem* row)

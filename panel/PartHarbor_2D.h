@@ -65,7 +65,7 @@ private:
     void sendSearch();
     void fillTable();
     void readResults();
-    void addRow(int row);
+    TableItem* addRow(int row);
     void relabel();
 
     QString m_category; // always empty

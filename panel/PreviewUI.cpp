@@ -19,6 +19,7 @@
 #include "service/SoapRequest.h"
 #include "ui_PreviewUI.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QFile>
@@ -165,12 +166,14 @@ void PreviewUI::showRow(TableItem* row)
     auto* heights = new RowHeights(m_configTable);
     heights->watch(row);
     m_configTable->setCellWidget(0, 0, row);
+    row->followInTabOrder(m_configTable);
 }
 
 void PreviewUI::showPreview(const QPixmap& picture)
 {
     if (picture.isNull()) {
         m_preview_label->clear();
+        m_preview_label->setMinimumWidth(m_preview_label->width()); // there must be something to click on
     } else {
         const qreal ratio = m_preview_label->devicePixelRatioF();
         QPixmap scaled = picture.scaled(m_preview_label->size() * ratio, Qt::KeepAspectRatio);
@@ -285,6 +288,7 @@ void PreviewUI::DragAndDrop(QNetworkReply* reply)
 
 void PreviewUI::startDownload(const QString& address)
 {
+    QWidget* const focused = QApplication::focusWidget(); // a disabled frame does not keep the focus
     m_form->frame->setEnabled(false);
     auto* manager = new QNetworkAccessManager(this);
     const QString fileName = fileNameOf(address);
@@ -300,6 +304,8 @@ void PreviewUI::startDownload(const QString& address)
     }
     ++g_downloadCounter;
     m_form->frame->setEnabled(true);
+    if (focused != nullptr && m_form->frame->isAncestorOf(focused))
+        focused->setFocus();
 }
 
 void PreviewUI::httpReadyRead()

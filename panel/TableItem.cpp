@@ -50,6 +50,13 @@ void TableItem::setCategory(const QString& category)
     m_form->catvaluelabel->setText(category);
 }
 
+QWidget* TableItem::followInTabOrder(QWidget* previous)
+{
+    setTabOrder(previous, m_form->iconpushButton);
+    setTabOrder(m_form->iconpushButton, m_form->descvaluelabel);
+    return m_form->descvaluelabel;
+}
+
 void TableItem::Iamgedata(QNetworkReply* pReply)
 {
     const QByteArray bytes = pReply->readAll();

@@ -33,6 +33,10 @@ public:
     void setRowIndex(int index);
     void setCategory(const QString& category);
 
+    /// Puts the row's controls behind another one in the tab order.
+    /// @return the row's last control.
+    QWidget* followInTabOrder(QWidget* previous);
+
 public slots:
     /// The thumbnail's reply; bytes that are no picture give a blank icon.
     void Iamgedata(QNetworkReply* pReply);

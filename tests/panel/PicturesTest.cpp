@@ -1,0 +1,168 @@
+#include "panel/ClickableLabel.h"
+#include "panel/TableItem.h"
+#include "tests/panel/CannedReplies.h"
+#include "tests/panel/PanelFixture.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPushButton>
+#include <QtTest>
+
+using test::PanelFixture;
+using test::pictureReply;
+using test::pngPicture;
+using test::ScriptedReply;
+using test::searchOperation;
+
+Q_DECLARE_METATYPE(test::ScriptedReply)
+
+namespace
+{
+
+const QString picturePath = "/pictures/part.png";
+
+QPixmap pictureOf(const QLabel* label)
+{
+    return label->pixmap(Qt::ReturnByValue);
+}
+
+/// @return a small file that takes 1.6 GB and seconds to decode.
+QByteArray hugePicture()
+{
+    QImage image(20000, 20000, QImage::Format_Mono);
+    image.fill(0);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+} // namespace
+
+/// Pictures that come from the service, as thumbnail of a row and as preview of a detail page.
+class PicturesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_panel.reset(); }
+
+    void thumbnailIsTheRowsIcon();
+    void previewFillsItsLabel_data();
+    void previewFillsItsLabel();
+    void previewOfAHiddenPage();
+    void unusablePictures_data();
+    void unusablePictures();
+
+private:
+    QPushButton* thumbnail() const
+    {
+        return m_panel->shown<TableItem>()->findChild<QPushButton*>("iconpushButton");
+    }
+    void openPart(const ScriptedReply& picture);
+
+    std::unique_ptr<PanelFixture> m_panel;
+};
+
+void PicturesTest::init()
+{
+    m_panel = std::make_unique<PanelFixture>();
+    m_panel->service().setReply(searchOperation, test::searchReply(test::hits(1)));
+}
+
+/// Opens a part with that picture for its thumbnail and its preview, and waits for the latter's end.
+void PicturesTest::openPart(const ScriptedReply& picture)
+{
+    m_panel->service().setReply(picturePath, picture);
+    m_panel->openFirstPart();
+    auto* preview = m_panel->shown<ClickableLabel>();
+    QTRY_VERIFY(preview->hasScaledContents());
+}
+
+void PicturesTest::thumbnailIsTheRowsIcon()
+{
+    m_panel->showResults();
+    QTRY_VERIFY(!thumbnail()->icon().isNull());
+    QCOMPARE(thumbnail()->iconSize(), QSize(80, 130));
+    QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({QSize(60, 90)}));
+    QTRY_VERIFY(thumbnail()->visibleRegion().boundingRect().height() >= 130); // nothing of it is cut off
+}
+
+void PicturesTest::previewFillsItsLabel_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addRow("small") << QSize(30, 20);
+    QTest::addRow("large") << QSize(4000, 4000);
+    QTest::addRow("wide") << QSize(900, 300);
+    QTest::addRow("tall") << QSize(100, 700);
+}
+
+void PicturesTest::previewFillsItsLabel()
+{
+    QFETCH(QSize, size);
+    m_panel->service().setReply(picturePath, pictureReply(pngPicture(size)).held());
+    m_panel->openFirstPart();
+    auto* label = m_panel->shown<ClickableLabel>();
+    QTRY_VERIFY(label->width() > 300);
+    const QSize room = label->size();
+    QVERIFY(room.height() >= 200);
+    m_panel->service().releaseAll();
+    QTRY_VERIFY(!pictureOf(label).isNull());
+    QCOMPARE(pictureOf(label).size(), size.scaled(room, Qt::KeepAspectRatio));
+    QVERIFY(label->hasScaledContents());
+    QCOMPARE(label->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(label->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    // Shown as it is, unless it is less high than the label may be.
+    QTRY_COMPARE(label->contentsRect().size(), pictureOf(label).size().expandedTo(QSize(0, 200)));
+}
+
+void PicturesTest::previewOfAHiddenPage()
+{
+    m_panel->service().setReply(picturePath, pictureReply(pngPicture({300, 300})).held());
+    m_panel->showResults();
+    QTest::mouseClick(thumbnail(), Qt::LeftButton);
+    auto* label = m_panel->shown<ClickableLabel>();
+    m_panel->window().setCurrentIndex(0); // before anything of the page has been laid out
+    QTRY_COMPARE(m_panel->service().heldCount(), 2);
+    m_panel->service().releaseAll();
+    QTRY_VERIFY(!pictureOf(label).isNull());
+    m_panel->window().setCurrentIndex(1);
+    QTRY_VERIFY(label->height() >= 200);
+    QVERIFY(pictureOf(label).width() >= 200);
+}
+
+void PicturesTest::unusablePictures_data()
+{
+    const QByteArray png = pngPicture({60, 90});
+    QTest::addColumn<ScriptedReply>("reply");
+    QTest::addRow("empty") << pictureReply({});
+    QTest::addRow("text") << pictureReply("no picture");
+    QTest::addRow("not found") << ScriptedReply::status(404, "nothing there");
+    QTest::addRow("cut image") << pictureReply(png.left(png.size() / 2));
+    QTest::addRow("head of an image") << pictureReply(png.left(30));
+    QTest::addRow("cut transfer") << ScriptedReply::cutShort(png.left(png.size() / 2));
+    QTest::addRow("reset") << ScriptedReply::reset();
+    QTest::addRow("huge") << pictureReply(hugePicture());
+    QTest::addRow("vectors") << pictureReply("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
+                                             "<rect width='9' height='9'/></svg>");
+}
+
+void PicturesTest::unusablePictures()
+{
+    QFETCH(ScriptedReply, reply);
+    openPart(reply);
+    QVERIFY(thumbnail()->icon().isNull());
+    auto* preview = m_panel->shown<ClickableLabel>();
+    QVERIFY(pictureOf(preview).isNull());
+
+    // The drawing can still be had.
+    QTRY_VERIFY(preview->height() >= 200);
+    QVERIFY(preview->width() >= 200);
+    m_panel->clickPreview();
+    QCOMPARE(m_panel->boxTexts(), QStringList("Please Login to 3DPH to Download."));
+}
+
+QTEST_MAIN(PicturesTest)
+#include "PicturesTest.moc"

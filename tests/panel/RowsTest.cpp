@@ -1,0 +1,273 @@
+#include "panel/TableItem.h"
+#include "tests/panel/CannedReplies.h"
+#include "tests/panel/PanelFixture.h"
+#include "tests/support/ScriptedConnection.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTextEdit>
+#include <QtTest>
+
+using test::configInfoOperation;
+using test::hits;
+using test::PanelFixture;
+using test::ScriptedReply;
+using test::searchOperation;
+using test::searchReply;
+
+Q_DECLARE_METATYPE(test::ScriptedReply)
+
+namespace
+{
+
+QList<QPointer<TableItem>> pointersTo(const QList<TableItem*>& rows)
+{
+    QList<QPointer<TableItem>> pointers;
+    for (TableItem* row : rows)
+        pointers.append(row);
+    return pointers;
+}
+
+} // namespace
+
+/// The rows that a search reply is shown as.
+class RowsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_panel = std::make_unique<PanelFixture>(); }
+    void cleanup() { m_panel.reset(); }
+
+    void rowShowsItsHit();
+    void textsAreShownAsTheyCome();
+    void rowsMade_data();
+    void rowsMade();
+    void furtherRowsAreNeverVisible();
+    void unusableReplies_data();
+    void unusableReplies();
+    void lastReplyToArriveWins();
+    void openedRowLeavesItsTable();
+    void openedRowSurvivesALateReply();
+    void lateThumbnailFollowsItsRow();
+    void closedPaneEndsItsRequests();
+
+private:
+    QString textOf(int row, const QString& label) const
+    {
+        return m_panel->row(row)->findChild<QLabel*>(label)->text();
+    }
+    QList<TableItem*> rows() const { return m_panel->container()->findChildren<TableItem*>(); }
+    void turnPage();
+
+    std::unique_ptr<PanelFixture> m_panel;
+};
+
+/// Asks for another page and waits until its reply has taken the place of the rows.
+void RowsTest::turnPage()
+{
+    const auto former = pointersTo(rows());
+    const int asked = m_panel->service().requests(searchOperation).size();
+    QTest::mouseClick(m_panel->shown<QPushButton>("pushButton2"), Qt::LeftButton);
+    QTRY_VERIFY(m_panel->service().requests(searchOperation).size() > asked);
+    QTRY_COMPARE(former.count(nullptr), former.size());
+}
+
+void RowsTest::rowShowsItsHit()
+{
+    m_panel->service().setReply(searchOperation,
+                                searchReply({{" Bolt", "With shank", "pictures/part.png?size=1", "Maker"},
+                                             {"  Nut", "", "pictures/part.png", "Other maker"}}));
+    m_panel->showResults();
+    QCOMPARE(textOf(0, "namevaluelabel"), QString("Bolt")); // without one blank
+    QCOMPARE(textOf(1, "namevaluelabel"), QString(" Nut"));
+    QCOMPARE(textOf(0, "label"), QString("Maker"));
+    QCOMPARE(textOf(1, "label"), QString("Other maker"));
+    QCOMPARE(textOf(0, "catvaluelabel"), QString());
+    auto* description = m_panel->row(0)->findChild<QTextEdit*>("descvaluelabel");
+    QCOMPARE(description->toPlainText(), QString("With shank"));
+    QVERIFY(!description->isReadOnly());
+    description = m_panel->row(1)->findChild<QTextEdit*>("descvaluelabel");
+    QCOMPARE(description->toPlainText(), QString("None Provided"));
+
+    QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 2);
+    const test::RecordedRequest& request = m_panel->service().requests("/pictures/part.png")[0];
+    QCOMPARE(request.method, QByteArray("GET"));
+    QVERIFY(request.header("SOAPAction").isNull());
+}
+
+void RowsTest::textsAreShownAsTheyCome()
+{
+    const QString markup = "<b>A</b> & <img src='file:///x'>";
+    m_panel->service().setReply(searchOperation,
+                                searchReply({{markup, markup, "pictures/part.png", markup}}));
+    m_panel->openFirstPart();
+    auto* row = m_panel->shown<TableItem>();
+    QCOMPARE(row->findChild<QTextEdit*>()->toPlainText(), markup);
+    for (const char* label : {"label", "namevaluelabel"}) {
+        QCOMPARE(row->findChild<QLabel*>(label)->text(), markup);
+        QCOMPARE(row->findChild<QLabel*>(label)->textFormat(), Qt::PlainText);
+    }
+    QCOMPARE(m_panel->sent(configInfoOperation, "supplierName"), QStringList(markup));
+    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList(markup));
+}
+
+void RowsTest::rowsMade_data()
+{
+    QTest::addColumn<QString>("count");
+    QTest::addColumn<int>("items");
+    QTest::addColumn<int>("made");
+    QTest::addRow("as many") << "5" << 5 << 5;
+    QTest::addRow("fewer than a page") << "2" << 2 << 2;
+    QTest::addRow("count smaller") << "3" << 5 << 3;
+    QTest::addRow("count larger") << "12" << 5 << 5;
+    QTest::addRow("count huge") << "2147483647" << 2 << 2;
+    QTest::addRow("count too large to read") << "99999999999" << 5 << 0;
+    QTest::addRow("count negative") << "-1" << 5 << 0;
+    QTest::addRow("count unreadable") << "five" << 5 << 0;
+    QTest::addRow("count empty") << "" << 5 << 0;
+    QTest::addRow("more than a table") << "7" << 7 << 7;
+    QTest::addRow("a flood") << "60" << 60 << 50;
+}
+
+void RowsTest::rowsMade()
+{
+    QFETCH(QString, count);
+    QFETCH(int, items);
+    QFETCH(int, made);
+    m_panel->showResults();
+    m_panel->service().setReply(searchOperation, searchReply(hits(items), count));
+    turnPage();
+    QTRY_COMPARE(rows().size(), made);
+    auto* table = m_panel->shown<QTableWidget>("tableWidget");
+    QCOMPARE(table->rowCount(), 5);
+    QCOMPARE(table->columnCount(), 1);
+    for (int row = 0; row < 5; ++row)
+        QCOMPARE(table->cellWidget(row, 0) != nullptr, row < made);
+}
+
+void RowsTest::furtherRowsAreNeverVisible()
+{
+    m_panel->service().setReply(searchOperation, searchReply(hits(7)));
+    m_panel->searchFor("bolt");
+    m_panel->window().setCurrentIndex(0); // the rows are made while their tab is hidden
+    QTRY_COMPARE(rows().size(), 7);
+    m_panel->window().setCurrentIndex(1);
+    QTRY_VERIFY(m_panel->row(4)->isVisible());
+    QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 7); // all fetch theirs
+    int visible = 0;
+    for (const TableItem* row : rows())
+        visible += row->isVisible() ? 1 : 0;
+    QCOMPARE(visible, 5);
+}
+
+void RowsTest::unusableReplies_data()
+{
+    QTest::addColumn<ScriptedReply>("reply");
+    QTest::addColumn<int>("made");
+    QTest::addRow("no hits") << searchReply({}) << 0;
+    QTest::addRow("count without hits") << searchReply({}, "3") << 0;
+    QTest::addRow("fault") << ScriptedReply::fault("no") << 0;
+    QTest::addRow("another document") << ScriptedReply::xml("<html/>") << 0;
+    // Without a document the last good one counts.
+    QTest::addRow("no XML") << ScriptedReply::xml("<html") << 5;
+    QTest::addRow("empty") << ScriptedReply::xml({}) << 5;
+    QTest::addRow("no HTTP") << ScriptedReply::raw("?") << 5;
+    QTest::addRow("cut short") << ScriptedReply::cutShort("<html>") << 5;
+    QTest::addRow("reset") << ScriptedReply::reset() << 5;
+}
+
+void RowsTest::unusableReplies()
+{
+    QFETCH(ScriptedReply, reply);
+    QFETCH(int, made);
+    m_panel->showResults();
+    m_panel->service().enqueue(searchOperation, reply);
+    turnPage();
+    QTRY_COMPARE(rows().size(), made);
+    turnPage(); // the page goes on working
+    QTRY_COMPARE(rows().size(), 5);
+    QVERIFY(m_panel->boxTexts().isEmpty());
+}
+
+void RowsTest::lastReplyToArriveWins()
+{
+    m_panel->service().enqueue(searchOperation, searchReply({{"Of page 1"}}).held());
+    m_panel->service().enqueue(searchOperation, searchReply({{"Of page 2"}}));
+    m_panel->searchFor("bolt");
+    QTRY_COMPARE(m_panel->service().heldCount(), 1);
+    QTest::mouseClick(m_panel->shown<QPushButton>("pushButton2"), Qt::LeftButton);
+    QTRY_VERIFY(m_panel->row(0) != nullptr);
+    QCOMPARE(textOf(0, "namevaluelabel"), QString("Of page 2"));
+    m_panel->service().releaseAll();
+    QTRY_COMPARE(textOf(0, "namevaluelabel"), QString("Of page 1"));
+}
+
+void RowsTest::openedRowLeavesItsTable()
+{
+    m_panel->service().setReply(searchOperation, searchReply({{"Bolt", "", "pictures/part.png", "Maker"},
+                                                              {"Nut", "", "pictures/part.png", "Other"}}));
+    m_panel->showResults();
+    QPointer<QTableWidget> results = m_panel->shown<QTableWidget>("tableWidget");
+    QPointer<QWidget> row = m_panel->row(1);
+    m_panel->openPart(1);
+    QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
+    QCOMPARE(m_panel->sent(configInfoOperation, "supplierName"), QStringList("Other"));
+    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList("Nut"));
+
+    auto* opened = m_panel->shown<TableItem>();
+    QCOMPARE(opened, row.data());
+    QVERIFY(results->cellWidget(1, 0) == nullptr);
+    QVERIFY(results->cellWidget(0, 0) != nullptr);
+    auto* button = opened->findChild<QPushButton*>("iconpushButton");
+    QVERIFY(!button->isEnabled());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(m_panel->service().requests(configInfoOperation).size(), 1);
+}
+
+void RowsTest::openedRowSurvivesALateReply()
+{
+    m_panel->showResults();
+    m_panel->service().enqueue(searchOperation, searchReply(hits(3)).held());
+    QTest::mouseClick(m_panel->shown<QPushButton>("pushButton2"), Qt::LeftButton);
+    QTRY_COMPARE(m_panel->service().heldCount(), 1);
+    auto others = pointersTo(rows());
+    m_panel->openPart(0);
+    const QPointer<TableItem> opened = m_panel->shown<TableItem>();
+    others.removeAll(opened);
+
+    m_panel->service().releaseAll();
+    QTRY_COMPARE(others.count(nullptr), 4); // the hidden page's table has been refilled
+    QVERIFY(!opened.isNull() && opened->isVisible());
+    QCOMPARE(opened->findChild<QLabel*>("namevaluelabel")->text(), QString("Part 1"));
+    QCOMPARE(rows().size(), 4);
+}
+
+void RowsTest::lateThumbnailFollowsItsRow()
+{
+    m_panel->service().setReply(searchOperation, searchReply(hits(1)));
+    const ScriptedReply picture = test::pictureReply(test::pngPicture({60, 90}));
+    m_panel->service().enqueue("/pictures/part.png", picture.held());
+    m_panel->openFirstPart();
+    auto* button = m_panel->shown<TableItem>()->findChild<QPushButton*>("iconpushButton");
+    QVERIFY(button->icon().isNull());
+    m_panel->service().releaseAll();
+    QTRY_VERIFY(!button->icon().isNull());
+}
+
+void RowsTest::closedPaneEndsItsRequests()
+{
+    m_panel->service().setReply("/pictures/part.png", ScriptedReply::never());
+    m_panel->openFirstPart();
+    QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 6);
+    m_panel->service().setReply(searchOperation, ScriptedReply::never());
+    QTest::mouseClick(m_panel->shown<QPushButton>("pushButton"), Qt::LeftButton);
+    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
+    m_panel->closePane();
+    QTRY_VERIFY(m_panel->service().findChildren<test::ScriptedConnection*>().isEmpty());
+}
+
+QTEST_MAIN(RowsTest)
+#include "RowsTest.moc"
