@@ -194,7 +194,7 @@ void drawEdges(QImage& image, const Solid& solid, const Fit& fit)
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     const double width = std::clamp(std::min(image.width(), image.height()) / 110.0, 0.7, 2.0);
-    painter.setPen(QPen(QColor(0x3c, 0x46, 0x52), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(QColor(0x3c, 0x46, 0x52, 0xc0), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
 }
 
