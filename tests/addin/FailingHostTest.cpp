@@ -1,0 +1,317 @@
+#include "tests/addin/LoadedAddIn.h"
+#include "tests/panel/CannedReplies.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+using devhost::Outcome;
+using test::ScriptedReply;
+
+namespace
+{
+
+// What a user sees of the add-in, in the order of effectsOfARoad().
+const QString command = "command toggles the pane";
+const QString lightIcon = "light icon";
+const QString menuEntry = "menu entry";
+const QString button = "ribbon button";
+const QString binding = "entry and button run the user command";
+const QString helpFile = "help file";
+const QString webHelp = "web help";
+const QString login = "login";
+const QString prompt = "prompt";
+const QString block = "block";
+const QString cleanEnd = "nothing left in the host";
+
+/// One SDK call and what is lost when it does nothing.
+struct Failure {
+    const char* call;
+    QStringList lost;
+};
+
+const QStringList all{command, lightIcon, menuEntry, button, binding, helpFile,
+                      webHelp, login,     prompt,    block,  cleanEnd};
+const QStringList panel{helpFile, webHelp, login, prompt, block};
+
+const Failure failures[] = {
+    {"GetLanguage", {}},
+    {"CreateCommand", {command}},
+    {"Command.RegisterEvent", {command}},
+    {"GetApplicationOptions", {lightIcon}},
+    {"ApplicationOptions.GetApplicationOptionInt16", {}},
+    {"CreateUserCommand", {lightIcon, binding}},
+    {"UserCommand.GetID", {binding}},
+    {"GetMenuItems", {menuEntry, binding}},
+    {"MenuItem.GetID", {menuEntry, binding}}, // in the last menu
+    {"MenuItem.InsertMenuItem", {menuEntry, binding}},
+    {"GetWorkspace", {button, binding}},
+    {"Workspace.GetRibbonTabs", {button, binding}},
+    {"RibbonTab.get_Name", {}},
+    {"RibbonTab.GetApiID", {button, binding}},
+    {"RibbonTab.GetRibbonPanels", {button, binding}},
+    {"RibbonPanel.get_Name", {}},
+    {"RibbonPanel.GetApiID", {button, binding}},
+    {"RibbonPanel.GetRibbonRow", {button, binding}},
+    {"RibbonRow.GetApiID", {button, binding}},
+    {"RibbonRow.InsertRibbonCommandButton", {button, binding}},
+    {"RibbonRow.GetRibbonRowItems", {}}, // the host removes what was left of the registrations
+    {"RibbonRowItem.GetApiID", {}},
+    {"RibbonRowItem.Remove", {}},
+    {"CreateCustomPropertyControl2", QStringList{command} + panel},
+    {"CustomPropertyControl.GetHWND", panel},
+    {"CustomPropertyControl.get_Visible", {command}},
+    {"CustomPropertyControl.put_Visible", {command}},
+    {"CustomPropertyControl.Destroy", {cleanEnd}},
+    {"IsWebHelpEnabled", {webHelp}},
+    {"GetWebLink", {}},
+    {"OpenWebHelp", {webHelp}},
+    {"GetSystemFiles", {helpFile}},
+    {"SystemFiles.get_HelpFile", {helpFile}},
+    {"OpenChmHelp", {helpFile}},
+    {"GetActiveDocument", {prompt, block}},
+    {"GetCommandMessage", {prompt, block}},
+    {"CommandMessage.PromptForBlockInsertion", {prompt, block}},
+    {"Document.GetModel", {block}},
+    {"Model.GetSketchManager", {block}},
+    {"SketchManager.InsertBlock2", {block}},
+    {"RemoveUserInterface", {cleanEnd}},
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(devhost::Outcome)
+Q_DECLARE_METATYPE(pvResult)
+
+/// A host in which one SDK call fails: the whole road from connect to disconnect, in which only what needs
+/// that call is missing.
+class FailingHostTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void everyCallIsInTheTable();
+    void oneCallFails_data();
+    void oneCallFails();
+    void theHandleNamesNoWidget_data();
+    void theHandleNamesNoWidget();
+
+private:
+    void prepareCatalog();
+    /// Plays the road. @return what of the effects was seen.
+    QStringList effectsOfARoad();
+    void lookAtRegistrations(QStringList* seen) const;
+    void runCommand(QStringList* seen);
+    void askForHelp(QStringList* seen);
+    void logIn(QStringList* seen);
+    void placeABlock(QStringList* seen);
+    void lookAtTheEnd(QStringList* seen) const;
+    bool toggles();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<test::LoadedAddIn> m_addIn;
+};
+
+void FailingHostTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QDir::setCurrent(m_folder->path());
+    m_addIn = std::make_unique<test::LoadedAddIn>();
+    prepareCatalog();
+    m_addIn->view().acceptPromptsAt(10, 20);
+    m_addIn->host().newDocument();
+}
+
+void FailingHostTest::cleanup()
+{
+    QCOMPARE(m_addIn->leave(), QStringList());
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
+    m_addIn.reset();
+    QDir::setCurrent(QDir::rootPath());
+    m_folder.reset();
+}
+
+void FailingHostTest::prepareCatalog()
+{
+    m_addIn->catalog().proxy().setRefusing(false);
+    test::ScriptedService& service = m_addIn->catalog().service();
+    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"})
+        service.setReply(operation, ScriptedReply::result(operation, "text"));
+    service.setReply("SimpleSearchAcrossCatalogs", test::searchReply(test::hits(1)));
+    service.setReply("GetConfigInfo", test::configurationsReply({"M8"}));
+    service.setReply("GetConfigParams", ScriptedReply::xml("<none/>"));
+    service.setReply(
+        "GetDownload2D",
+        ScriptedReply::result("GetDownload2D", "https://" + test::ScriptedCatalog::host() + "/part.dwg"));
+    service.setReply("/part.dwg", ScriptedReply::status(200, "drawing", "application/octet-stream"));
+    service.setReply("/pictures/part.png", test::pictureReply(test::pngPicture({8, 8})));
+}
+
+QStringList FailingHostTest::effectsOfARoad()
+{
+    QStringList seen;
+    m_addIn->connect();
+    runCommand(&seen);
+    lookAtRegistrations(&seen);
+    if (m_addIn->view().paneWidget() != nullptr)
+        m_addIn->view().paneWidget()->show(); // by the user
+    if (auto* tabs = m_addIn->shown<QTabWidget>("QTabWidget")) {
+        askForHelp(&seen);
+        logIn(&seen);
+        tabs->setCurrentIndex(1);
+        placeABlock(&seen);
+    }
+    m_addIn->disconnect();
+    lookAtTheEnd(&seen);
+    return seen;
+}
+
+bool FailingHostTest::toggles()
+{
+    const QPointer<QWidget> pane = m_addIn->view().paneWidget();
+    const bool before = pane && pane->isVisible();
+    return m_addIn->host().runCommand("3DPH") && pane && pane->isVisible() != before;
+}
+
+void FailingHostTest::runCommand(QStringList* seen)
+{
+    if (toggles() && toggles())
+        seen->append(command);
+}
+
+void FailingHostTest::lookAtRegistrations(QStringList* seen) const
+{
+    const auto userCommand = m_addIn->host().findUserCommand("UserCommand_3DPH");
+    if (userCommand && userCommand->properties().largeIcon == ":/3DPH/Resource/3DPH_32x-32.svg")
+        seen->append(lightIcon);
+    const QStringList entries = m_addIn->registrations().filter("ID_Import/3: 3DPH");
+    const QStringList buttons = m_addIn->registrations().filter("ID_ImportTab/ID_ImportPanel: 3DPH");
+    if (entries.size() == 1)
+        seen->append(menuEntry);
+    if (buttons.size() == 1)
+        seen->append(button);
+    if ((entries + buttons).filter("UserCommand_3DPH").size() == 2)
+        seen->append(binding);
+}
+
+void FailingHostTest::askForHelp(QStringList* seen)
+{
+    for (const bool web : {false, true}) {
+        m_addIn->host().settings().webHelp = web;
+        QTest::mouseClick(m_addIn->shown("HelpButton"), Qt::LeftButton);
+    }
+    const QStringList& opened = m_addIn->view().openedHelp();
+    if (opened.contains("Help/PlotvaneKT.chm#15050"))
+        seen->append(helpFile);
+    if (!opened.filter("?P=16&L=").isEmpty())
+        seen->append(webHelp);
+}
+
+void FailingHostTest::logIn(QStringList* seen)
+{
+    // Both pages have their key: only then can the panel search.
+    QVERIFY(test::waitUntil([this] { return m_addIn->warnings().debugLines().size() == 4; }));
+    QTest::keyClicks(m_addIn->shown("QLineEdit", "email_lineEdit"), "a@b.example");
+    QTest::keyClicks(m_addIn->shown("QLineEdit", "Pass_lineEdit_2"), "secret");
+    QTest::mouseClick(m_addIn->shown("QPushButton", "LogIn_pushButton"), Qt::LeftButton);
+    QVERIFY(test::waitUntil([this] { return m_addIn->answerer().boxes().size() == 1; }));
+    if (m_addIn->answerer().boxes().last().text == "Login is successful.")
+        seen->append(login);
+}
+
+void FailingHostTest::placeABlock(QStringList* seen)
+{
+    QTest::keyClicks(m_addIn->shown("QLineEdit", "SearchLine"), "bolt");
+    QTest::keyClick(m_addIn->shown("QLineEdit", "SearchLine"), Qt::Key_Return);
+    QVERIFY(test::waitUntil([this] { return m_addIn->shown("QPushButton", "iconpushButton") != nullptr; }));
+    QTest::mouseClick(m_addIn->shown("QPushButton", "iconpushButton"), Qt::LeftButton);
+    QVERIFY(test::waitUntil(
+        [this] { return m_addIn->catalog().service().requests("GetConfigParams").size() == 1; }));
+    QTest::mouseClick(m_addIn->shown("ClickableLabel"), Qt::LeftButton);
+    // The last call of the road that the add-in makes in every host. The prompt follows in the same turn.
+    QVERIFY(
+        test::waitUntil([this] { return m_addIn->host().journal().names().contains("GetCommandMessage"); }));
+    if (!m_addIn->view().prompts().empty())
+        seen->append(prompt);
+    if (m_addIn->host().activeDocument()->blocks().objects().size() == 1)
+        seen->append(block);
+}
+
+void FailingHostTest::lookAtTheEnd(QStringList* seen) const
+{
+    if (m_addIn->registrations().isEmpty() && m_addIn->host().panes().empty())
+        seen->append(cleanEnd);
+}
+
+void FailingHostTest::everyCallIsInTheTable()
+{
+    QCOMPARE(effectsOfARoad(), all);
+    QStringList called = m_addIn->host().journal().names();
+    QStringList inTable;
+    for (const Failure& failure : failures)
+        inTable.append(failure.call);
+    called.sort();
+    inTable.sort();
+    QCOMPARE(called, inTable);
+}
+
+void FailingHostTest::oneCallFails_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<pvResult>("result");
+    QTest::addColumn<Outcome>("outcome");
+    QTest::addColumn<QStringList>("lost");
+    for (const Failure& failure : failures) {
+        QTest::addRow("%s refuses", failure.call)
+            << failure.call << PVRESULT_False << Outcome::Nothing << failure.lost;
+        QTest::addRow("%s claims success and gives nothing", failure.call)
+            << failure.call << PVRESULT_True << Outcome::Nothing << failure.lost;
+        // Only for the pane does the result code count; its control is there all the same.
+        const bool isPane = failure.call == QLatin1String("CreateCustomPropertyControl2");
+        QTest::addRow("%s works and claims failure", failure.call)
+            << failure.call << PVRESULT_False << Outcome::Usual << (isPane ? panel : QStringList());
+    }
+}
+
+void FailingHostTest::oneCallFails()
+{
+    QFETCH(QString, call);
+    QFETCH(pvResult, result);
+    QFETCH(Outcome, outcome);
+    QFETCH(QStringList, lost);
+    m_addIn->host().answers().fail(call, result, outcome);
+    QStringList expected;
+    for (const QString& effect : all) {
+        if (!lost.contains(effect))
+            expected.append(effect);
+    }
+    QCOMPARE(effectsOfARoad(), expected);
+}
+
+void FailingHostTest::theHandleNamesNoWidget_data()
+{
+    QTest::addColumn<quintptr>("handle");
+    QTest::newRow("null") << quintptr{0};
+    QTest::newRow("unknown") << quintptr{0x7ffffff0};
+    QTest::newRow("sign bit set") << quintptr{0x80000001};
+}
+
+void FailingHostTest::theHandleNamesNoWidget()
+{
+    QFETCH(quintptr, handle);
+    m_addIn->view().reportHandle(handle);
+    QVERIFY(m_addIn->connect());
+    QVERIFY(!m_addIn->host().panes().empty());
+    QCOMPARE(m_addIn->view().paneWidget()->children(), QObjectList());
+    QVERIFY(toggles());
+    QVERIFY(toggles());
+}
+
+QTEST_MAIN(FailingHostTest)
+#include "FailingHostTest.moc"
