@@ -4,6 +4,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace
 {
@@ -16,7 +17,10 @@ constexpr int MaximumNodes = 500 * 1000;
 class MarkupScan
 {
 public:
-    explicit MarkupScan(QStringView text) : m_next(text.begin()), m_end(text.end()) {}
+    explicit MarkupScan(QStringView text)
+        : m_next(text.begin()), m_end(text.end()), m_nodes(entityReferences(text))
+    {
+    }
 
     bool isBearable()
     {
@@ -28,6 +32,7 @@ public:
     }
 
 private:
+    static std::ptrdiff_t entityReferences(QStringView text);
     bool readText();
     bool readMarkup();
     bool readSection();
@@ -39,19 +44,21 @@ private:
 
     const QChar* m_next;
     const QChar* m_end;
-    int m_nodes = 0;
+    std::ptrdiff_t m_nodes;
     int m_depth = 0;
 };
+
+/// Each may be a node of its own. A text that is too short for too many nodes needs no count.
+std::ptrdiff_t MarkupScan::entityReferences(QStringView text)
+{
+    return text.size() > MaximumNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
+}
 
 /// Up to and with the next "<". @return false at the end.
 bool MarkupScan::readText()
 {
     const QChar* const start = m_next;
-    while (m_next != m_end && *m_next != QLatin1Char('<')) {
-        if (*m_next == QLatin1Char('&'))
-            ++m_nodes; // may be a node of its own
-        ++m_next;
-    }
+    m_next = std::find(m_next, m_end, QLatin1Char('<'));
     if (m_next == m_end)
         return false;
     if (m_next != start)
@@ -123,7 +130,7 @@ bool MarkupScan::skip(QStringView expected)
 void MarkupScan::skipPast(QStringView end)
 {
     m_next = std::search(m_next, m_end, end.begin(), end.end());
-    m_next += std::min<qptrdiff>(end.size(), m_end - m_next);
+    m_next += std::min<std::ptrdiff_t>(end.size(), m_end - m_next);
 }
 
 void MarkupScan::skipPast(QChar end)

@@ -23,7 +23,7 @@ qint64 allocatedBytes()
 {
 #if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
     const struct mallinfo2 info = mallinfo2();
-    return static_cast<qint64>(info.uordblks + info.hblkhd);
+    return static_cast<qint64>(info.uordblks) + static_cast<qint64>(info.hblkhd);
 #else
     return 0;
 #endif
@@ -170,10 +170,10 @@ void HostileRepliesTest::replies()
     QFETCH(QString, text);
     ParsingThread thread(text);
     thread.start();
-    QVERIFY(thread.wait(60 * 1000));
+    QVERIFY(thread.wait(60000));
     QTEST(thread.parsed(), "parsed");
     QCOMPARE(thread.hasContent(), thread.parsed()); // a refused one leaves nothing behind
-    QVERIFY2(thread.heldBytes() <= 20 * text.size() + 10 * 1000 * 1000,
+    QVERIFY2(thread.heldBytes() <= 20LL * text.size() + 10'000'000,
              qPrintable(QString("%1 bytes for %2 characters").arg(thread.heldBytes()).arg(text.size())));
 }
 
