@@ -1,0 +1,166 @@
+#include "tests/addin/LoadedAddIn.h"
+
+#include <QFile>
+#include <QTabWidget>
+#include <QTest>
+
+#include <functional>
+
+namespace
+{
+
+const QString lightIcon = ":/3DPH/Resource/3DPH_32x-32.svg";
+const QString darkIcon = ":/3DPH/Resource/Dark/3DPH-32.svg";
+const QString optionRead = "ApplicationOptions.GetApplicationOptionInt16(48)";
+
+QString darkSheet()
+{
+    QFile file(":/3DPH/Resource/PV3DPartHarborDarkMode.qss");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+/// What the host's colour theme does to icons and boxes of the loaded library, in which it is read once.
+class HostThemeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_addIn = std::make_unique<test::LoadedAddIn>(); }
+    void cleanup();
+
+    void iconsAndBoxes_data();
+    void iconsAndBoxes();
+    void theFirstThemeStays_data();
+    void theFirstThemeStays();
+    void anUnreadThemeIsReadLater();
+
+private:
+    /// @return the small and the large icon of the user command; empty without one.
+    QStringList icons() const;
+    /// Has the panel refuse an empty search. @return the box.
+    test::SeenMessageBox errorBox();
+    int optionReads();
+
+    std::unique_ptr<test::LoadedAddIn> m_addIn;
+};
+
+void HostThemeTest::cleanup()
+{
+    QCOMPARE(m_addIn->leave(), QStringList());
+    m_addIn.reset();
+}
+
+QStringList HostThemeTest::icons() const
+{
+    const auto userCommand = m_addIn->host().findUserCommand("UserCommand_3DPH");
+    return userCommand ? QStringList{userCommand->properties().smallIcon, userCommand->properties().largeIcon}
+                       : QStringList();
+}
+
+test::SeenMessageBox HostThemeTest::errorBox()
+{
+    m_addIn->shown<QTabWidget>("QTabWidget")->setCurrentIndex(1);
+    QTest::mouseClick(m_addIn->shown("QPushButton", "SearchButton"), Qt::LeftButton);
+    return m_addIn->answerer().boxes().last();
+}
+
+int HostThemeTest::optionReads()
+{
+    return m_addIn->takeCalls().count(optionRead);
+}
+
+using Arrangement = std::function<void(devhost::HostApplication&)>;
+Q_DECLARE_METATYPE(Arrangement)
+
+void HostThemeTest::iconsAndBoxes_data()
+{
+    QTest::addColumn<Arrangement>("arrange");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<bool>("darkBoxes");
+    QTest::addColumn<int>("reads");
+    const auto row = [](const char* name, const Arrangement& arrange, const QString& icon, bool darkBoxes,
+                        int reads) { QTest::newRow(name) << arrange << icon << darkBoxes << reads; };
+
+    row(
+        "light", [](auto& host) { host.settings().darkTheme = false; }, lightIcon, false, 1);
+    row(
+        "dark", [](auto& host) { host.settings().darkTheme = true; }, darkIcon, true, 1);
+    row(
+        "no options", [](auto& host) { host.answers().fail("GetApplicationOptions", PVRESULT_False); },
+        darkIcon, true, 0);
+    row(
+        "no value", [](auto& host) { host.answers().fail(optionRead.section('(', 0, 0), PVRESULT_False); },
+        lightIcon, false, 1);
+    row(
+        "name taken, light", [](auto& host) { host.addCommand("3DPH"); }, QString(), true, 0);
+}
+
+void HostThemeTest::iconsAndBoxes()
+{
+    QFETCH(Arrangement, arrange);
+    QFETCH(QString, icon);
+    QFETCH(bool, darkBoxes);
+    arrange(m_addIn->host());
+    m_addIn->connect();
+    QTEST(optionReads(), "reads");
+    QCOMPARE(icons(), icon.isNull() ? QStringList() : QStringList({icon, icon}));
+
+    errorBox();
+    // A refused connection is a login without a token.
+    m_addIn->shown<QTabWidget>("QTabWidget")->setCurrentIndex(0);
+    QTest::mouseClick(m_addIn->shown("QPushButton", "LogIn_pushButton"), Qt::LeftButton);
+    QVERIFY(test::waitUntil([this] { return m_addIn->answerer().boxes().size() == 2; }));
+    QCOMPARE(m_addIn->answerer().boxes().last().icon, QMessageBox::Information);
+
+    QVERIFY(darkSheet().size() > 1000);
+    for (const test::SeenMessageBox& box : m_addIn->answerer().boxes())
+        QCOMPARE(box.styleSheet, darkBoxes ? darkSheet() : QString());
+}
+
+void HostThemeTest::theFirstThemeStays_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void HostThemeTest::theFirstThemeStays()
+{
+    QFETCH(bool, dark);
+    m_addIn->host().settings().darkTheme = dark;
+    m_addIn->connect();
+    const QStringList first = icons();
+    m_addIn->host().settings().darkTheme = !dark;
+    QCOMPARE(errorBox().styleSheet.isEmpty(), !dark);
+
+    m_addIn->disconnect();
+    m_addIn->takeCalls();
+    m_addIn->connect();
+    QCOMPARE(optionReads(), 1); // at every connect, if only to be kept once
+    QCOMPARE(icons(), first);
+    QCOMPARE(errorBox().styleSheet.isEmpty(), !dark);
+
+    // A fresh library reads it anew.
+    m_addIn->disconnect();
+    QVERIFY(m_addIn->library().unload());
+    QVERIFY(m_addIn->library().load());
+    m_addIn->connect();
+    QVERIFY(icons() != first);
+}
+
+void HostThemeTest::anUnreadThemeIsReadLater()
+{
+    m_addIn->host().answers().fail("GetApplicationOptions", PVRESULT_False);
+    m_addIn->connect();
+    QVERIFY(!errorBox().styleSheet.isEmpty());
+    m_addIn->disconnect();
+    m_addIn->host().answers().clear();
+    m_addIn->connect();
+    QCOMPARE(icons().first(), lightIcon);
+    QVERIFY(errorBox().styleSheet.isEmpty());
+}
+
+QTEST_MAIN(HostThemeTest)
+#include "HostThemeTest.moc"
