@@ -71,7 +71,7 @@ void DockedPaneTest::theTabs()
     const auto* grid = qobject_cast<QGridLayout*>(tabs()->widget(1)->layout());
     QVERIFY(grid != nullptr);
     const QWidget* panel = grid->itemAt(grid->count() - 1)->widget();
-    QVERIFY(panel != nullptr && panel->inherits("PV3DPartHarbor_2D"));
+    QVERIFY(panel->inherits("PV3DPartHarbor_2D"));
     tabs()->setCurrentIndex(1);
     QVERIFY(panel->isVisible());
 }

@@ -58,7 +58,7 @@ QStringList LoadedAddIn::leave()
 
 QStringList LoadedAddIn::takeCalls()
 {
-    const QStringList lines = m_host->journal().lines();
+    QStringList lines = m_host->journal().lines();
     m_host->journal().clear();
     return lines;
 }

@@ -115,7 +115,7 @@ void UnloadTest::nothingGrowsOverAHundredCycles()
     QCOMPARE(late.openFiles, early.openFiles);
     // A text kept per cycle would be some 50 bytes.
     const qint64 growth = late.heapBytes - early.heapBytes;
-    QVERIFY2(growth < 80 * 50,
+    QVERIFY2(growth < qint64{80} * 50,
              qPrintable(QString("the heap has grown by %1 bytes in 80 cycles").arg(growth)));
 }
 
