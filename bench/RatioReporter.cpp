@@ -30,10 +30,7 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
             continue;
         const std::string full = run.run_name.function_name;
         const auto slash = full.rfind('/');
-        const std::string name = full.substr(0, slash);
-        if (m_pairs.count(name) == 0)
-            m_order.push_back(name);
-        Pair& pair = m_pairs[name];
+        Pair& pair = m_pairs[full.substr(0, slash)];
         auto& times = full.substr(slash + 1) == "ours" ? pair.ours : pair.floor;
         times.push_back(run.cpu_accumulated_time * 1e6 / static_cast<double>(run.iterations));
     }
@@ -42,9 +39,9 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 void RatioReporter::Finalize()
 {
     std::printf("%-42s %12s %12s %7s\n", "", "ours, us", "floor, us", "ratio");
-    for (const std::string& name : m_order) {
-        const double ours = median(m_pairs[name].ours);
-        const double floor = median(m_pairs[name].floor);
+    for (const auto& [name, pair] : m_pairs) {
+        const double ours = median(pair.ours);
+        const double floor = median(pair.floor);
         std::printf("%-42s %12.1f %12.1f %7.3f\n", name.c_str(), ours, floor, ours / floor);
     }
 }

@@ -21,6 +21,5 @@ private:
         std::vector<double> floor;
     };
 
-    std::vector<std::string> m_order;
     std::map<std::string, Pair> m_pairs;
 };

@@ -24,6 +24,20 @@ QString textOf(const QDomNode& element)
     return element.firstChild().nodeValue();
 }
 
+/// The first element of either name in document order. Unlike the toolkit's list it walks no further.
+QDomElement firstElement(const QDomNode& parent, const QString& name, const QString& otherName)
+{
+    for (QDomElement child = parent.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        if (child.tagName() == name || child.tagName() == otherName)
+            return child;
+        const QDomElement found = firstElement(child, name, otherName);
+        if (!found.isNull())
+            return found;
+    }
+    return {};
+}
+
 QString withoutLeadingBlank(const QString& text)
 {
     return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
@@ -63,7 +77,12 @@ void XMLParser::setContent(const QString& xml)
 
 int XMLParser::GetActualItemCount() const
 {
-    return textOf(m_document.elementsByTagName(QLatin1String("ActualItemCount")).item(0)).toInt();
+    // As a rule it stands before the hits, which then need not be walked.
+    const QString name = QLatin1String("ActualItemCount");
+    QDomNode count = firstElement(m_document, name, QLatin1String(SearchOperation.resultElement));
+    if (count.nodeName() != name)
+        count = m_document.elementsByTagName(name).item(0);
+    return textOf(count).toInt();
 }
 
 QStringList XMLParser::GetSearchItemNames() const
@@ -106,7 +125,10 @@ SearchResults XMLParser::GetSearchResults(int limit) const
 {
     SearchResults results;
     const QDomNodeList items = m_document.elementsByTagName(QLatin1String(SearchOperation.resultElement));
-    const int count = qMin(limit, items.count());
+    const int count = qBound(0, limit, items.count());
+    for (QStringList* list :
+         {&results.imageUrls, &results.supplierNames, &results.modelNames, &results.descriptions})
+        list->reserve(count);
     for (int i = 0; i < count; ++i) {
         const QDomNodeList fields = items.item(i).childNodes();
         results.imageUrls.append(ServiceBaseUrl + textOf(fields.item(ImageField)));

@@ -108,6 +108,8 @@ void MarkupScan::readTag()
     QChar last;
     while (m_next != m_end && *m_next != QLatin1Char('>')) {
         last = *m_next++;
+        if (last > QLatin1Char('>'))
+            continue; // most are letters
         if (last == QLatin1Char('"') || last == QLatin1Char('\''))
             skipPast(last);
         else if (last == QLatin1Char('='))
