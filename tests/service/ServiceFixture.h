@@ -24,7 +24,6 @@ public:
     ConnectProxy& proxy() { return m_catalog.proxy(); }
     /// All boxes that opened, oldest first.
     const QVector<SeenMessageBox>& boxes() const { return m_boxes.boxes(); }
-    MessageBoxAnswerer& answerer() { return m_boxes; }
 
     /// Answers the two operations of a bootstrap.
     void scriptSession(const QString& sessionId, const QString& key);

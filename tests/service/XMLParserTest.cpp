@@ -5,6 +5,7 @@
 #include "tests/support/ScriptedCatalog.h"
 
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QtTest>
 
 #include <memory>
