@@ -4,6 +4,14 @@
 #include <QScrollBar>
 #include <QTreeWidget>
 
+namespace
+{
+
+/// Where little height is left, a picture still gets that much, or as much as makes it square.
+constexpr int PictureHeight = 320;
+
+} // namespace
+
 SectionFrame::SectionFrame(QTreeWidget* tree) : QFrame(tree), m_tree(tree)
 {
     setStyleSheet(QLatin1String("margin-bottom: 5px;"));
@@ -52,7 +60,7 @@ void SectionFrame::fit()
         return;
     int height = hasHeightForWidth() ? heightForWidth(width()) : sizeHint().height();
     if (m_fills)
-        height = qMax(height, heightLeft());
+        height = qMax(height, qMax(heightLeft(), qMin(width(), PictureHeight)));
     if (height == m_item->sizeHint(0).height())
         return;
     m_item->setSizeHint(0, QSize(0, height));

@@ -17,7 +17,8 @@ public:
 
     /// Makes the frame the content of an item. @param item of the tree; not owned.
     void showIn(QTreeWidgetItem* item);
-    /// Has the frame, the tree's last item, also take the height that is left below it.
+    /// Has the frame, the tree's last item, take the height that is left below it, and no less than a picture
+    /// needs.
     void fillTree();
 
 protected:

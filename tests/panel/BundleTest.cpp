@@ -115,6 +115,7 @@ void BundleTest::waitForSessions(int count)
 void BundleTest::approach(const QString& step)
 {
     m_panel->offerDrawing("/part.dwg", ScriptedReply::xml("drawing"));
+    m_panel->service().setReply(configParamsOperation, ScriptedReply::never()); // or it comes too late
     const QHash<QString, QString> heldBefore{{"information", configInfoOperation},
                                              {"parameters", configParamsOperation},
                                              {"address", downloadOperation}};

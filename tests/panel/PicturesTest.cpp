@@ -102,12 +102,18 @@ void PicturesTest::previewFillsItsLabel_data()
 void PicturesTest::previewFillsItsLabel()
 {
     QFETCH(QSize, size);
+    m_panel->window().resize(400, 1100);
+    m_panel->showResults();
+    QTRY_VERIFY(!thumbnail()->icon().isNull()); // or it would change the layout later
     m_panel->service().setReply(picturePath, pictureReply(pngPicture(size)).held());
-    m_panel->openFirstPart();
+    m_panel->openPart(0);
     auto* label = m_panel->shown<ClickableLabel>();
-    QTRY_VERIFY(label->width() > 300);
+    const QWidget* const frame = label->parentWidget();
+    QCoreApplication::processEvents();
+    QTRY_COMPARE(frame->geometry().bottom(), frame->parentWidget()->rect().bottom()); // takes what is left
     const QSize room = label->size();
-    QVERIFY(room.height() >= 200);
+    QVERIFY(room.width() > 300 && room.height() >= 200);
+    QTRY_COMPARE(m_panel->service().heldCount(), 1);
     m_panel->service().releaseAll();
     QTRY_VERIFY(!pictureOf(label).isNull());
     QCOMPARE(pictureOf(label).size(), size.scaled(room, Qt::KeepAspectRatio));

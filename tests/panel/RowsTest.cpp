@@ -93,7 +93,7 @@ void RowsTest::rowShowsItsHit()
     QCOMPARE(description->toPlainText(), QString("None Provided"));
 
     QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 2);
-    const test::RecordedRequest& request = m_panel->service().requests("/pictures/part.png")[0];
+    const test::RecordedRequest request = m_panel->service().requests("/pictures/part.png")[0];
     QCOMPARE(request.method, QByteArray("GET"));
     QVERIFY(request.header("SOAPAction").isNull());
 }
