@@ -292,13 +292,14 @@ void HostCallsTest::registration_data()
     row(
         "gaps and strangers in every list",
         [=](HostApplication& host) {
-            const auto workspace = host.workspaces().objects().front();
+            host.addCommand("OTHER");
+            const auto stranger = host.commands().objects().back();
             const auto fill = [&](auto& list) {
                 const auto objects = list.objects();
                 list = {};
                 for (const auto& object : objects) {
                     list.addNull();
-                    list.addStranger(workspace);
+                    list.addStranger(stranger);
                     list.add(object);
                 }
                 list.addNull();
@@ -306,7 +307,7 @@ void HostCallsTest::registration_data()
             fill(host.menus());
             fill(tab(host)->panels().objects().at(1)->row()->buttons());
             fill(tab(host)->panels());
-            fill(workspace->tabs());
+            fill(host.workspaces().objects().front()->tabs());
         },
         commands + entry + button);
     row(

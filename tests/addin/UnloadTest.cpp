@@ -9,7 +9,7 @@
 #include <QFileInfo>
 #include <QNetworkProxy>
 #include <QPixmapCache>
-#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 #include <limits>
@@ -53,13 +53,19 @@ bool isInMemoryMap(const QString& file)
            map.readAll().contains(QFileInfo(file).canonicalFilePath().toLocal8Bit());
 }
 
-/// Makes a port where nothing listens the application's proxy.
-void refuseConnections()
+/// While it lives, the application's proxy is a port that refuses connections.
+class RefusingProxy
 {
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", server.serverPort()});
-}
+public:
+    RefusingProxy()
+    {
+        m_socket.bind(QHostAddress::LocalHost); // without listening; keeps the port from others
+        QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", m_socket.localPort()});
+    }
+
+private:
+    QTcpSocket m_socket;
+};
 
 } // namespace
 
@@ -73,10 +79,11 @@ private slots:
     void nothingGrowsOverAHundredCycles();
 
 private:
-    void playCycle(devhost::HostApplication* host);
+    /// @param early whether the host disconnects while the requests of both pages are still under way.
+    void playCycle(devhost::HostApplication* host, bool early);
 };
 
-void UnloadTest::playCycle(devhost::HostApplication* host)
+void UnloadTest::playCycle(devhost::HostApplication* host, bool early)
 {
     devhost::AddInLibrary library(ADDIN_LIBRARY);
     QVERIFY2(library.load(), qPrintable(library.errorString()));
@@ -85,7 +92,10 @@ void UnloadTest::playCycle(devhost::HostApplication* host)
     QVERIFY(library.connect(host));
     QVERIFY(host->runCommand("3DPH"));
     QVERIFY(host->runCommand("3DPH"));
-    QTRY_COMPARE(s_answeredRequests, 4); // two of each of the two pages
+    if (early)
+        QCoreApplication::processEvents();
+    else
+        QTRY_COMPARE(s_answeredRequests, 4); // two of each page
     QVERIFY(library.disconnect());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(library.unload());
@@ -96,7 +106,7 @@ void UnloadTest::playCycle(devhost::HostApplication* host)
 void UnloadTest::nothingGrowsOverAHundredCycles()
 {
     qInstallMessageHandler(countReplies);
-    refuseConnections();
+    const RefusingProxy proxy;
     QPixmapCache::setCacheLimit(0); // else it keeps, up to its limit, pictures of buttons that are gone
     test::ScriptedHostView view;
     const auto host = std::make_shared<devhost::HostApplication>(view);
@@ -105,7 +115,7 @@ void UnloadTest::nothingGrowsOverAHundredCycles()
     Holdings early;
     Holdings late;
     for (int cycle = 1; cycle <= 100 && !QTest::currentTestFailed(); ++cycle) {
-        playCycle(host.get());
+        playCycle(host.get(), cycle % 2 == 0);
         if (cycle > 10 && cycle <= 20)
             early.look();
         else if (cycle > 90)
@@ -113,10 +123,9 @@ void UnloadTest::nothingGrowsOverAHundredCycles()
     }
     QCOMPARE(late.widgets, early.widgets);
     QCOMPARE(late.openFiles, early.openFiles);
-    // A text kept per cycle would be some 50 bytes.
+    // The toolkit's own tables move by up to 4 KB either way; one object kept per cycle is more.
     const qint64 growth = late.heapBytes - early.heapBytes;
-    QVERIFY2(growth < qint64{80} * 50,
-             qPrintable(QString("the heap has grown by %1 bytes in 80 cycles").arg(growth)));
+    QVERIFY2(growth < 8000, qPrintable(QString("the heap has grown by %1 bytes in 80 cycles").arg(growth)));
 }
 
 QTEST_MAIN(UnloadTest)
