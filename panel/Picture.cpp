@@ -8,6 +8,8 @@ namespace
 {
 
 constexpr qint64 MaximumPixels = 16'000'000;
+/// Width and height of what is kept: more than any pane shows, and few megabytes for each of many rows.
+constexpr QSize Kept(1024, 1024);
 
 } // namespace
 
@@ -24,5 +26,7 @@ QPixmap pictureFromBytes(const QByteArray& bytes)
     if (reader.format().startsWith("svg") || !size.isValid() ||
         static_cast<qint64>(size.width()) * size.height() > MaximumPixels)
         return QPixmap();
+    if (size.boundedTo(Kept) != size)
+        reader.setScaledSize(size.scaled(Kept, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     return QPixmap::fromImage(reader.read());
 }

@@ -1,14 +1,11 @@
 #include "panel/TableItem.h"
 
 #include "panel/PartHarbor_2D.h"
-#include "panel/Picture.h"
 #include "panel/PictureRequest.h"
 #include "panel/PreviewUI.h"
-#include "service/ReplyRelease.h"
 #include "ui_TableItem.h"
 
 #include <QGridLayout>
-#include <QNetworkReply>
 #include <QPointer>
 
 TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
@@ -59,9 +56,7 @@ QWidget* TableItem::followInTabOrder(QWidget* previous)
 
 void TableItem::Iamgedata(QNetworkReply* pReply)
 {
-    const QByteArray bytes = pReply->readAll();
-    releaseReply(pReply);
-    m_form->iconpushButton->setIcon(QIcon(pictureFromBytes(bytes)));
+    m_form->iconpushButton->setIcon(QIcon(takePicture(pReply)));
     m_form->iconpushButton->setIconSize(QSize(80, 130));
 }
 
@@ -88,7 +83,5 @@ void TableItem::Preview()
 
 void TableItem::PreviewDownloaded(QNetworkReply* pReply)
 {
-    const QByteArray bytes = pReply->readAll();
-    releaseReply(pReply);
-    m_detailPage->showPreview(pictureFromBytes(bytes));
+    m_detailPage->showPreview(takePicture(pReply));
 }

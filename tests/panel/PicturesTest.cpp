@@ -50,6 +50,8 @@ private slots:
     void cleanup() { m_panel.reset(); }
 
     void thumbnailIsTheRowsIcon();
+    void largePicturesAreReduced_data();
+    void largePicturesAreReduced();
     void previewFillsItsLabel_data();
     void previewFillsItsLabel();
     void previewOfAHiddenPage();
@@ -88,6 +90,25 @@ void PicturesTest::thumbnailIsTheRowsIcon()
     QCOMPARE(thumbnail()->iconSize(), QSize(80, 130));
     QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({QSize(60, 90)}));
     QTRY_VERIFY(thumbnail()->visibleRegion().boundingRect().height() >= 130); // nothing of it is cut off
+}
+
+void PicturesTest::largePicturesAreReduced_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("kept");
+    QTest::addRow("as it is") << QSize(1024, 1024) << QSize(1024, 1024);
+    QTest::addRow("square") << QSize(4000, 4000) << QSize(1024, 1024);
+    QTest::addRow("line") << QSize(100000, 1) << QSize(1024, 1);
+}
+
+void PicturesTest::largePicturesAreReduced()
+{
+    QFETCH(QSize, size);
+    QFETCH(QSize, kept);
+    m_panel->service().setReply(picturePath, pictureReply(pngPicture(size)));
+    m_panel->showResults();
+    QTRY_VERIFY(!thumbnail()->icon().isNull());
+    QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({kept}));
 }
 
 void PicturesTest::previewFillsItsLabel_data()
@@ -150,6 +171,7 @@ void PicturesTest::unusablePictures_data()
     QTest::addRow("head of an image") << pictureReply(png.left(30));
     QTest::addRow("cut transfer") << ScriptedReply::cutShort(png.left(png.size() / 2));
     QTest::addRow("reset") << ScriptedReply::reset();
+    QTest::addRow("endless") << pictureReply(QByteArray(40'000'000, 'x')).heldAfter(39'000'000);
     QTest::addRow("huge") << pictureReply(hugePicture());
     QTest::addRow("vectors") << pictureReply("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
                                              "<rect width='9' height='9'/></svg>");
