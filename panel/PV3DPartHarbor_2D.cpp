@@ -39,11 +39,9 @@ PV3DPartHarbor_2D::PV3DPartHarbor_2D(pvApplication_c* application, QWidget* pare
 
 PV3DPartHarbor_2D::~PV3DPartHarbor_2D()
 {
-    if (m_starting) {
-        // The pane goes under a box that Return has opened: the line edit is still handling the key.
+    // The pane goes under a box that Return has opened: the line edit is still handling the key.
+    if (m_starting)
         m_searchLine->setParent(nullptr);
-        m_searchLine->deleteLater();
-    }
 }
 
 void PV3DPartHarbor_2D::buildPanel()
@@ -91,12 +89,15 @@ void PV3DPartHarbor_2D::CategoryButtonPressed(int id)
 void PV3DPartHarbor_2D::on_line_edit()
 {
     const QPointer<PV3DPartHarbor_2D> self(this); // a box may open, during which the pane may go
+    QLineEdit* const line = m_searchLine;
     m_starting = true;
-    if (m_searchLine->text().isEmpty())
+    if (line->text().isEmpty())
         showErrorBox(QObject::tr("Please enter Search string"));
     else
         startSearch();
-    if (!self.isNull())
+    if (self.isNull())
+        line->deleteLater(); // from here, not from the box's own event loop, which would do it under the key
+    else
         m_starting = false;
 }
 

@@ -317,6 +317,8 @@ void PreviewUI::httpReadyRead()
 void PreviewUI::httpDownloadFinished()
 {
     m_downloadReply->readAll(); // what is still unread is dropped
+    // The page may go under the prompt, the reply must not: some replies are touched after this signal.
+    m_downloadReply->manager()->setParent(nullptr);
     releaseReply(m_downloadReply);
     m_downloadReply.clear();
     placeDrawing(this);

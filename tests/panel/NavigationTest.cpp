@@ -45,6 +45,7 @@ private slots:
     void searchNeedsAKey();
     void paneMayCloseUnderABox_data();
     void paneMayCloseUnderABox();
+    void searchLineOutlivesItsKey();
     void panelSwallowsItsEvents();
 
 private:
@@ -303,6 +304,23 @@ void NavigationTest::paneMayCloseUnderABox()
         clickBack();
     QCOMPARE(m_panel->boxTexts().size(), 1);
     QVERIFY(!m_panel->isPaneOpen());
+}
+
+/// The toolkit goes on with the line edit once the box that Return opened has been closed.
+void NavigationTest::searchLineOutlivesItsKey()
+{
+    const QPointer<QLineEdit> line(m_panel->shown<QLineEdit>("SearchLine"));
+    bool outlived = false;
+    connect(&m_panel->answerer(), &test::MessageBoxAnswerer::opened, line, [&] {
+        m_panel->closePane();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        outlived = !line.isNull();
+    });
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(outlived);
+    QVERIFY(!m_panel->isPaneOpen());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(line.isNull());
 }
 
 void NavigationTest::panelSwallowsItsEvents()
