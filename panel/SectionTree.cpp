@@ -24,6 +24,8 @@ void prepareSectionTree(QTreeWidget* tree)
     tree->setRootIsDecorated(false);
     tree->setIndentation(0);
     tree->setAutoFillBackground(true);
+    // A section that the focus passes through must not turn the selection's colour under its header.
+    tree->setSelectionMode(QAbstractItemView::NoSelection);
     // Contents may be higher than the tree.
     tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 }
