@@ -45,6 +45,18 @@ QFrame* createCorner(pvApplication_c* application)
     return corner;
 }
 
+/// A host may hand out a pane that has a layout, such as the one it got here at an earlier connect.
+void fillPane(QWidget* pane, QWidget* content)
+{
+    if (QLayout* layout = pane->layout()) {
+        layout->addWidget(content);
+        return;
+    }
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(content);
+    pane->setLayout(layout);
+}
+
 } // namespace
 
 bool DockWidgetApplication::createDockWidget()
@@ -72,9 +84,7 @@ bool DockWidgetApplication::createDockWidget()
     m_tabWidget->setTabToolTip(browsing, QLatin1String("Creates a 2D representation of the model"));
     m_tabWidget->setCornerWidget(createCorner(m_app.get()), Qt::TopRightCorner);
 
-    auto* layout = new QVBoxLayout;
-    layout->addWidget(m_tabWidget);
-    pane->setLayout(layout);
+    fillPane(pane, m_tabWidget);
     pane->show();
     m_customPropertyControl->put_Visible(true);
     return true;

@@ -21,6 +21,7 @@ private slots:
     void theTabs();
     void theHelpButtonStandsInTheCorner();
     void onlyTitlesAreTranslated();
+    void aPaneIsHandedOutAgain();
 
 private:
     QTabWidget* tabs() const { return m_addIn->shown<QTabWidget>("QTabWidget"); }
@@ -111,6 +112,20 @@ void DockedPaneTest::onlyTitlesAreTranslated()
     QCOMPARE(tabs()->tabText(1), QCoreApplication::translate("QObject", "2D"));
     QCOMPARE(tabs()->tabToolTip(1), QString("Creates a 2D representation of the model"));
     QCOMPARE(m_addIn->shown("HelpButton")->toolTip(), QString("Help"));
+}
+
+/// A host may keep the widget of its pane, and with it the layout that the pane got first.
+void DockedPaneTest::aPaneIsHandedOutAgain()
+{
+    m_addIn->disconnect();
+    m_addIn->view().keepPane();
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(m_addIn->connect());
+        QTRY_VERIFY(tabs() != nullptr); // a layout shows what it gets later at the event loop's next turn
+        theTabsFillThePane();
+        m_addIn->disconnect();
+        QVERIFY(m_addIn->view().paneWidget()->findChildren<QWidget*>().isEmpty());
+    }
 }
 
 QTEST_MAIN(DockedPaneTest)

@@ -11,22 +11,17 @@ namespace
 class ScriptedPane final : public devhost::PaneView
 {
 public:
-    ScriptedPane(const QString& title, std::optional<quintptr> reportedHandle)
-        : m_reportedHandle(reportedHandle)
+    ScriptedPane(std::shared_ptr<QWidget> widget, std::optional<quintptr> reportedHandle)
+        : m_widget(std::move(widget)), m_reportedHandle(reportedHandle)
     {
-        m_widget.setWindowTitle(title);
-        m_widget.setAttribute(Qt::WA_NativeWindow);
-        m_widget.resize(400, 700);
     }
 
-    QWidget* widget() { return &m_widget; }
-
-    quintptr windowHandle() const override { return m_reportedHandle.value_or(m_widget.winId()); }
-    bool isVisible() const override { return m_widget.isVisible(); }
-    void setVisible(bool visible) override { m_widget.setVisible(visible); }
+    quintptr windowHandle() const override { return m_reportedHandle.value_or(m_widget->winId()); }
+    bool isVisible() const override { return m_widget->isVisible(); }
+    void setVisible(bool visible) override { m_widget->setVisible(visible); }
 
 private:
-    QWidget m_widget;
+    std::shared_ptr<QWidget> m_widget;
     std::optional<quintptr> m_reportedHandle;
 };
 
@@ -46,9 +41,14 @@ std::unique_ptr<devhost::PaneView> ScriptedHostView::createPane(const QString& t
 {
     if (m_refusesPanes)
         return nullptr;
-    auto pane = std::make_unique<ScriptedPane>(title, m_reportedHandle);
-    m_paneWidget = pane->widget();
-    return pane;
+    auto widget = m_keptPane ? m_keptPane : std::make_shared<QWidget>();
+    widget->setWindowTitle(title);
+    widget->setAttribute(Qt::WA_NativeWindow);
+    widget->resize(400, 700);
+    if (m_keepsPane)
+        m_keptPane = widget;
+    m_paneWidget = widget.get();
+    return std::make_unique<ScriptedPane>(widget, m_reportedHandle);
 }
 
 devhost::BlockPromptAnswer ScriptedHostView::promptForBlock(const devhost::BlockPrompt& prompt)

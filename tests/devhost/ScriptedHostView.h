@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace test
@@ -21,6 +22,8 @@ public:
     void refusePanes() { m_refusesPanes = true; }
     /// Has panes report that handle instead of their widget's.
     void reportHandle(quintptr handle) { m_reportedHandle = handle; }
+    /// Keeps the next pane's widget when the pane is destroyed, and hands it out again.
+    void keepPane() { m_keepsPane = true; }
     /// Answers every prompt from now on; the script may do what a user could do meanwhile. Without one
     /// prompts are cancelled.
     void answerPrompts(std::function<devhost::BlockPromptAnswer(const devhost::BlockPrompt&)> script)
@@ -55,6 +58,8 @@ public:
 private:
     bool m_refusesPanes = false;
     std::optional<quintptr> m_reportedHandle;
+    bool m_keepsPane = false;
+    std::shared_ptr<QWidget> m_keptPane;
     std::function<devhost::BlockPromptAnswer(const devhost::BlockPrompt&)> m_promptScript;
     QHash<QString, std::optional<devhost::BlockGeometry>> m_blocks;
     QPointer<QWidget> m_paneWidget;
