@@ -28,7 +28,7 @@ constexpr auto MenuEntry = static_cast<pvMenuItemType_e>(2);
 constexpr long MenuPosition = 3;
 constexpr auto RibbonButtonStyle = static_cast<pvRibbonButtonStyle_e>(1);
 
-QString caption()
+QString commandCaption()
 {
     return QObject::tr("3DPH");
 }
@@ -78,8 +78,8 @@ void insertMenuEntry(pvApplication_c* application, const pvString& userCommandID
     pvMenuItem_c* menu = findMenu(application);
     pvMenuItem_c* entry = nullptr;
     if (menu != nullptr)
-        menu->InsertMenuItem(DockWidgetApplication::appID, MenuEntry, MenuPosition, toPVString(caption()),
-                             userCommandID, &entry);
+        menu->InsertMenuItem(DockWidgetApplication::appID, MenuEntry, MenuPosition,
+                             toPVString(commandCaption()), userCommandID, &entry);
 }
 
 template <class T>
@@ -170,7 +170,7 @@ bool DockWidgetApplication::CreateUserInterfaceAndCommands()
 
     const pvString userCommandID = createUserCommand(m_app.get());
     insertMenuEntry(m_app.get(), userCommandID);
-    AddRibbonItem(L"3DPHRibbonRow", toPVString(caption()), userCommandID);
+    AddRibbonItem(L"3DPHRibbonRow", toPVString(commandCaption()), userCommandID);
     return true;
 }
 
