@@ -1,5 +1,4 @@
-# The catalog service the library is built for, and what of the library depends on it.
-# The catalog service and the service account that the library is built for.
+# The catalog service and the service account that the library is built for, and what of the library depends on them.
 set(PARTHARBOR_SERVICE_HOST "localhost:8443" CACHE STRING "Host (and port) of the catalog service and its web site")
 set(PARTHARBOR_SERVICE_CATALOG "partharbor" CACHE STRING "ServiceLogin: catalog")
 set(PARTHARBOR_SERVICE_USER "PlotvaneSU" CACHE STRING "ServiceLogin: service user")
@@ -11,6 +10,9 @@ set(DOCKWIDGET_TEST_SERVICE_HOST "catalog.test:8443")
 # dockwidget_add_service_host(target host): what depends on the service host, as an object library: the
 # addresses and the resource bundle with its request templates. Everything else is compiled once for all hosts.
 function(dockwidget_add_service_host target host)
+  if(NOT host)
+    message(FATAL_ERROR "PARTHARBOR_SERVICE_HOST is empty: the library needs a catalog service.")
+  endif()
   set(staging ${CMAKE_BINARY_DIR}/resources/${target})
   dockwidget_request_templates(${staging} ${host} templates)
   dockwidget_resource_bundle(${staging} "${templates}" bundle)
