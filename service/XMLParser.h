@@ -23,7 +23,8 @@ public:
     XMLParser() = default;
 
     /// Loads the document from a file. A file that cannot be opened is reported twice, first by an error box
-    /// and then by an information box; one that cannot be parsed leaves the document empty.
+    /// and then by an information box; one that cannot be parsed leaves the document empty, and so does one
+    /// that no reply could be, such as one with a document type (see parseXml()).
     explicit XMLParser(const QString& fileName);
 
     /// Parses @p xml; only if that succeeds does it replace the document.

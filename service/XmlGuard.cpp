@@ -10,7 +10,10 @@ namespace
 {
 
 constexpr int MaximumDepth = 200;
-constexpr int MaximumNodes = 500 * 1000;
+constexpr std::ptrdiff_t MaximumNodes = 500 * 1000;
+/// Any text may hold that many nodes; a longer one has to be as long as real replies are for theirs.
+constexpr std::ptrdiff_t NodesAtAnyLength = 20 * 1000;
+constexpr std::ptrdiff_t CharactersPerNode = 8;
 
 /// Goes over the markup alone, once and without recursion, and counts what it will become. Malformed text may
 /// be counted wrongly only where the parser stops at the same place.
@@ -18,21 +21,25 @@ class MarkupScan
 {
 public:
     explicit MarkupScan(QStringView text)
-        : m_next(text.begin()), m_end(text.end()), m_nodes(entityReferences(text))
+        : m_next(text.begin()),
+          m_end(text.end()),
+          m_bearableNodes(
+              std::min<std::ptrdiff_t>(MaximumNodes, NodesAtAnyLength + text.size() / CharactersPerNode)),
+          m_nodes(entityReferences(text))
     {
     }
 
     bool isBearable()
     {
         while (readText()) {
-            if (!readMarkup() || m_depth > MaximumDepth || m_nodes > MaximumNodes)
+            if (!readMarkup() || m_depth > MaximumDepth || m_nodes > m_bearableNodes)
                 return false;
         }
         return true;
     }
 
 private:
-    static std::ptrdiff_t entityReferences(QStringView text);
+    std::ptrdiff_t entityReferences(QStringView text) const;
     bool readText();
     bool readMarkup();
     bool readSection();
@@ -44,14 +51,15 @@ private:
 
     const QChar* m_next;
     const QChar* m_end;
+    std::ptrdiff_t m_bearableNodes;
     std::ptrdiff_t m_nodes;
     int m_depth = 0;
 };
 
 /// Each may be a node of its own. A text that is too short for too many nodes needs no count.
-std::ptrdiff_t MarkupScan::entityReferences(QStringView text)
+std::ptrdiff_t MarkupScan::entityReferences(QStringView text) const
 {
-    return text.size() > MaximumNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
+    return text.size() > m_bearableNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
 }
 
 /// Up to and with the next "<". @return false at the end.
