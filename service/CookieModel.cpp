@@ -75,6 +75,7 @@ CookieModel::CookieModel(CookieJar* cookieJar, QObject* parent)
 {
     if (m_cookieJar) {
         connect(m_cookieJar, SIGNAL(cookiesChanged()), this, SLOT(cookiesChanged()));
+        connect(m_cookieJar, SIGNAL(destroyed()), this, SLOT(cookiesChanged()));
         m_cookieJar->load();
     }
 }

@@ -187,7 +187,6 @@ void CookieModelTest::aModelWithoutAJarIsEmpty()
 
 void CookieModelTest::theJarMayGoFirst()
 {
-    m_jar->setKeepPolicy(CookieJar::KeepUntilExit);
     const QSignalSpy reset(m_model.get(), &CookieModel::modelReset);
     const QModelIndex kept = m_model->index(0, 0);
     m_jar.reset();
