@@ -41,11 +41,12 @@ void fill(const QDomDocument& document, std::initializer_list<SoapValue> values)
 
 } // namespace
 
-QByteArray soapRequestBody(const ServiceOperation& operation, std::initializer_list<SoapValue> values)
+std::optional<QByteArray> soapRequestBody(const ServiceOperation& operation,
+                                          std::initializer_list<SoapValue> values)
 {
     QFile file(templatePath(operation));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
+        return std::nullopt;
     QDomDocument document(QLatin1String(operation.documentName));
     document.setContent(file.readAll());
     fill(document, values);
@@ -56,16 +57,18 @@ QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializ
                                QObject* asker, const char* replySlot)
 {
     const QNetworkRequest request = soapHeaders(operation);
-    const QByteArray body = soapRequestBody(operation, values);
-    if (body.isEmpty()) {
+    const std::optional<QByteArray> body = soapRequestBody(operation, values);
+    if (!body) {
         showCannotOpenBox(templatePath(operation));
         return nullptr;
     }
+    if (body->isEmpty())
+        return nullptr; // the service could make nothing of it
 
     // No parent: it must outlive the asker's own children while a reply is being delivered. Asker and manager
     // still go together, by the toolkit's code alone, which is there after the add-in has been unloaded.
     auto* manager = new QNetworkAccessManager;
-    QNetworkReply* reply = manager->post(request, body);
+    QNetworkReply* reply = manager->post(request, *body);
     QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, replySlot);
     QObject::connect(asker, SIGNAL(destroyed()), manager, SLOT(deleteLater()));
     new ReplyLimit(reply, MaximumXmlLength, asker);

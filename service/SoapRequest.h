@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <initializer_list>
+#include <optional>
 
 class QNetworkReply;
 class QObject;
@@ -19,8 +20,10 @@ struct SoapValue {
 /// Fills an operation's template.
 /// @param operation whose template.
 /// @param values the elements to fill, in order.
-/// @return the envelope to post, indented by one space per level; empty when the template cannot be opened.
-QByteArray soapRequestBody(const ServiceOperation& operation, std::initializer_list<SoapValue> values);
+/// @return the envelope to post, indented by one space per level, empty where the template is no XML; nothing
+///         when the template cannot be opened.
+std::optional<QByteArray> soapRequestBody(const ServiceOperation& operation,
+                                          std::initializer_list<SoapValue> values);
 
 /// Fills an operation's template and posts it.
 ///
@@ -31,7 +34,8 @@ QByteArray soapRequestBody(const ServiceOperation& operation, std::initializer_l
 /// @param values the elements to fill, in order.
 /// @param asker receives the reply; not owned.
 /// @param replySlot SLOT() of the asker that takes a QNetworkReply*.
-/// @return the reply under way, owned by its network manager; null when nothing was sent: then the template
-///         could not be opened and an error box has said so, during which the asker may have gone.
+/// @return the reply under way, owned by its network manager; null when nothing was sent: the envelope is
+///         empty, or the template could not be opened and an error box has said so, during which the asker
+///         may have gone.
 QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializer_list<SoapValue> values,
                                QObject* asker, const char* replySlot);
