@@ -1,7 +1,7 @@
 #include "panel/ClickableLabel.h"
 #include "panel/TableItem.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -24,6 +24,18 @@ const QString picturePath = "/pictures/part.png";
 QPixmap pictureOf(const QLabel* label)
 {
     return label->pixmap(Qt::ReturnByValue);
+}
+
+/// @return a picture as a file of that format, without its last bytes.
+QByteArray cutPicture(const char* format, int missing)
+{
+    QImage image(60, 90, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes.chopped(missing);
 }
 
 /// @return a small file that takes 1.6 GB and seconds to decode.
@@ -50,6 +62,8 @@ private slots:
     void cleanup() { m_panel.reset(); }
 
     void thumbnailIsTheRowsIcon();
+    void formats_data();
+    void formats();
     void largePicturesAreReduced_data();
     void largePicturesAreReduced();
     void previewFillsItsLabel_data();
@@ -90,6 +104,21 @@ void PicturesTest::thumbnailIsTheRowsIcon()
     QCOMPARE(thumbnail()->iconSize(), QSize(80, 130));
     QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({QSize(60, 90)}));
     QTRY_VERIFY(thumbnail()->visibleRegion().boundingRect().height() >= 130); // nothing of it is cut off
+}
+
+void PicturesTest::formats_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char* format : {"PNG", "JPG", "BMP"})
+        QTest::addRow("%s", format) << QByteArray(format);
+}
+
+void PicturesTest::formats()
+{
+    QFETCH(QByteArray, format);
+    m_panel->service().setReply(picturePath, pictureReply(cutPicture(format, 0)));
+    m_panel->showResults();
+    QTRY_VERIFY(!thumbnail()->icon().isNull());
 }
 
 void PicturesTest::largePicturesAreReduced_data()
@@ -168,6 +197,8 @@ void PicturesTest::unusablePictures_data()
     QTest::addRow("text") << pictureReply("no picture");
     QTest::addRow("not found") << ScriptedReply::status(404, "nothing there");
     QTest::addRow("cut image") << pictureReply(png.left(png.size() / 2));
+    QTest::addRow("cut photograph") << pictureReply(cutPicture("JPG", 2));
+    QTest::addRow("cut bitmap") << pictureReply(cutPicture("BMP", 1));
     QTest::addRow("head of an image") << pictureReply(png.left(30));
     QTest::addRow("cut transfer") << ScriptedReply::cutShort(png.left(png.size() / 2));
     QTest::addRow("reset") << ScriptedReply::reset();
