@@ -168,6 +168,7 @@ void PartHarbor_2D::releaseRow(TableItem* row)
     QMetaObject::invokeMethod(m_form->tableWidget, "editorDestroyed", Qt::DirectConnection,
                               Q_ARG(QObject*, row));
     row->removeEventFilter(m_form->tableWidget);
+    m_rowHeights->forget(row);
     if (m_lastRow == row)
         m_lastRow = nullptr;
 }

@@ -24,6 +24,11 @@ void RowHeights::watch(QWidget* cellWidget)
     cellWidget->installEventFilter(this);
 }
 
+void RowHeights::forget(QWidget* cellWidget)
+{
+    cellWidget->removeEventFilter(this);
+}
+
 bool RowHeights::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)

@@ -17,6 +17,8 @@ public:
 
     /// To be called with every widget that is put into a cell.
     void watch(QWidget* cellWidget);
+    /// To be called with a widget that leaves its cell.
+    void forget(QWidget* cellWidget);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -69,9 +69,12 @@ void TableItem::Preview()
     m_detailPage->setModel(m_form->label->text(), m_form->namevaluelabel->text());
 
     const QPointer<TableItem> self(this);
-    m_detailPage->GetConfigInfo(); // may open a box, during which the pane may go
-    if (self.isNull())
+    const QPointer<PreviewUI> detailPage(m_detailPage);
+    m_detailPage->GetConfigInfo(); // may open a box, during which the pane may go, or a refill take the row
+    if (self.isNull()) {
+        delete detailPage; // it would come up beside the results
         return;
+    }
     requestPicture(m_page->parser().GetSearchItemImageUrls().value(m_rowIndex), this,
                    SLOT(PreviewDownloaded(QNetworkReply*)));
     m_page->releaseRow(this);

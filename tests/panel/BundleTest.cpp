@@ -2,6 +2,7 @@
 #include "service/SessionValues.h"
 #include "tests/panel/PanelFixture.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QtTest>
 
@@ -35,6 +36,7 @@ private slots:
 
     void missingFiles_data();
     void missingFiles();
+    void rowGoesUnderItsBox();
 
 private:
     void approach(const QString& step);
@@ -103,6 +105,26 @@ void BundleTest::missingFiles()
     QCOMPARE(m_panel->isPaneOpen(), !close);
     QVERIFY(unsent.isEmpty() || m_panel->service().requests(unsent).isEmpty());
     QVERIFY(m_panel->files().isEmpty());
+}
+
+/// While the box says that a part cannot be opened, a late reply replaces the row that was clicked.
+void BundleTest::rowGoesUnderItsBox()
+{
+    waitForSessions(1);
+    m_panel->showResults();
+    m_panel->service().setReply(searchOperation, ScriptedReply::xml("<r/>").held());
+    QTest::mouseClick(m_panel->shown<QPushButton>("pushButton2"), Qt::LeftButton);
+    QTRY_COMPARE(m_panel->service().heldCount(), 1);
+    dropBundle();
+    const QPointer<QWidget> row = m_panel->row(0);
+    QObject::connect(&m_panel->answerer(), &test::MessageBoxAnswerer::opened, &m_panel->window(), [&] {
+        m_panel->service().releaseAll();
+        QTRY_VERIFY(row.isNull());
+    });
+    QTest::mouseClick(row->findChild<QPushButton*>("iconpushButton"), Qt::LeftButton);
+    QCOMPARE(m_panel->boxTexts(), QStringList("Cannot open xml file: :/3DPH/ConfigInfo.xml"));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_panel->shownPages(), QStringList("PartHarbor_2D"));
 }
 
 /// Waits until so many sessions have come to their key; each of their two replies leaves a debug line.
