@@ -37,6 +37,7 @@ void addOptions(QCommandLineParser& parser, const QString& defaultLibrary)
         {"slow", "The embedded catalog takes 0 to 300 ms for a reply."},
         {"drawings", "Drawing files of the embedded catalog: whole, noise, or cut short.", "which", "whole"},
         {"size", "Size of the window.", "width x height"},
+        {"gallery", "Opens the gallery: standard widgets in the add-in's dark style sheet."},
         {"tour", "Plays the whole road by itself and saves screenshots in the folder DIR.", "DIR"},
         {"long", "The tour takes the long road: several searches, parts, drawings, and what goes wrong."},
         {"account", "Account that the tour logs in with, instead of the embedded catalog's.",
@@ -75,6 +76,7 @@ Options parseOptions(const QStringList& arguments, const QString& defaultLibrary
     Options options;
     options.library = parser.value("library");
     options.caFile = parser.value("ca");
+    options.gallery = parser.isSet("gallery");
     options.tour = parser.isSet("tour");
     options.tourFolder = parser.value("tour");
     options.longRoad = parser.isSet("long");

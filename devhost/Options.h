@@ -22,8 +22,9 @@ struct Options {
     HostSettings settings;
     bool embeddedCatalog = true; ///< Starts the catalog service in this process.
     CatalogConduct catalogConduct;
-    QString caFile;   ///< Certificate authority to trust besides those of the system; may be empty.
-    QSize windowSize; ///< Not valid when none was given.
+    QString caFile;       ///< Certificate authority to trust besides those of the system; may be empty.
+    QSize windowSize;     ///< Not valid when none was given.
+    bool gallery = false; ///< Opens the gallery of styled widgets at the start.
     bool tour = false;
     QString tourFolder;    ///< Where the tour saves its screenshots.
     bool longRoad = false; ///< The tour goes back and forth, fails, and cancels, too.

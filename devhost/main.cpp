@@ -41,6 +41,8 @@ int runWindow(const devhost::Options& options)
     if (options.tour)
         return devhost::Tour(window, session, options).run() ? 0 : 1;
     session.start();
+    if (options.gallery)
+        window.showGallery();
     return QApplication::exec();
 }
 

@@ -45,6 +45,8 @@ public:
 
     /// Runs what could be typed into the command line: a command of the host's own or of an add-in.
     void runCommand(const QString& text);
+    /// Opens the gallery of standard widgets in the style sheet that the loaded add-in brings.
+    void showGallery();
 
 signals:
     void reconnectRequested();
@@ -65,7 +67,6 @@ private:
     QWidget* createCloseButton(const HostDocument& document);
     void showCursor(const QPointF& model);
     void toggleGrid();
-    void showGallery();
     bool isShownCommand(const QString& command) const;
     void printCommands();
 
