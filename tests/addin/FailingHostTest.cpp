@@ -1,5 +1,5 @@
 #include "tests/addin/LoadedAddIn.h"
-#include "tests/panel/CannedReplies.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QComboBox>
 #include <QDir>

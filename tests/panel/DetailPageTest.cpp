@@ -2,8 +2,8 @@
 #include "panel/DrawingViews.h"
 #include "panel/InputParameters.h"
 #include "panel/PreviewUI.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QComboBox>
 #include <QDomDocument>

@@ -1,8 +1,8 @@
 #include "panel/DownloadedFile.h"
 #include "panel/PreviewUI.h"
 #include "service/SessionValues.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 #include "tests/support/ScriptedConnection.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "panel/LogInPage.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

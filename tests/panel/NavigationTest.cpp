@@ -1,8 +1,8 @@
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PartHarbor_2D.h"
 #include "service/SessionValues.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QAbstractButton>
 #include <QGridLayout>

@@ -5,7 +5,7 @@
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/ParentWidget.h"
 #include "service/SessionValues.h"
-#include "tests/panel/CannedReplies.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QDir>
 #include <QDomDocument>

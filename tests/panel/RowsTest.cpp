@@ -1,6 +1,6 @@
 #include "panel/TableItem.h"
-#include "tests/panel/CannedReplies.h"
 #include "tests/panel/PanelFixture.h"
+#include "tests/support/CannedReplies.h"
 #include "tests/support/ScriptedConnection.h"
 
 #include <QLabel>

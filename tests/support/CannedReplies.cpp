@@ -1,4 +1,4 @@
-#include "tests/panel/CannedReplies.h"
+#include "tests/support/CannedReplies.h"
 
 #include <QBuffer>
 #include <QImage>
