@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> 详细视图</translation>
+        <translation> 详细图纸</translation>
     </message>
     <message>
         <source> Dimetric</source>

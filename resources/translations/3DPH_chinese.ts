@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> 詳細視圖</translation>
+        <translation> 詳細圖面</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Please enter Search string</source>
-        <translation>請輸入搜尋字串</translation>
+        <translation>請輸入搜尋關鍵字</translation>
     </message>
     <message>
         <source>Preview</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Podrobný pohled</translation>
+        <translation> Podrobný výkres</translation>
     </message>
     <message>
         <source> Dimetric</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Vue détaillée</translation>
+        <translation> Dessin détaillé</translation>
     </message>
     <message>
         <source> Dimetric</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Detaillierte Ansicht</translation>
+        <translation> Detaillierte Zeichnung</translation>
     </message>
     <message>
         <source> Dimetric</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Vista dettagliata</translation>
+        <translation> Disegno dettagliato</translation>
     </message>
     <message>
         <source> Dimetric</source>

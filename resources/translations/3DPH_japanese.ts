@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>Configuration : </source>
-        <translation>構成 : </translation>
+        <translation>コンフィギュレーション : </translation>
     </message>
     <message>
         <source>Creates a 2D representation of the model</source>
-        <translation>モデルの2D図を作成します</translation>
+        <translation>モデルの2D図面を作成します</translation>
     </message>
     <message>
         <source>Email Address : </source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Widok szczegółowy</translation>
+        <translation> Rysunek szczegółowy</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source> Left</source>
-        <translation> Widok z lewej strony</translation>
+        <translation> Widok od lewej strony</translation>
     </message>
     <message>
         <source> Mulit View</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source> Right</source>
-        <translation> Widok z prawej strony</translation>
+        <translation> Widok od prawej strony</translation>
     </message>
     <message>
         <source> Top</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Vista detalhada</translation>
+        <translation> Desenho detalhado</translation>
     </message>
     <message>
         <source> Dimetric</source>

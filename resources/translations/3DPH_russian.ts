@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Детализированный вид</translation>
+        <translation> Подробный чертёж</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Please Login to 3DPH to Download.</source>
-        <translation>Войдите в 3DPH, чтобы выполнить загрузку.</translation>
+        <translation>Войдите в 3DPH, чтобы скачать файл.</translation>
     </message>
     <message>
         <source>Please enter Search string</source>
@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Предварительный просмотр</translation>
+        <translation>Предпросмотр</translation>
     </message>
     <message>
         <source>Search</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Vista detallada</translation>
+        <translation> Dibujo detallado</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Server was unable to process request. Invalid key string.</source>
-        <translation>El servidor no ha podido procesar la solicitud. La clave no es válida.</translation>
+        <translation>El servidor no ha podido procesar la solicitud. La cadena de clave no es válida.</translation>
     </message>
 </context>
 </TS>

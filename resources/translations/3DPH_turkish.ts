@@ -17,7 +17,7 @@
     </message>
     <message>
         <source> Detailed</source>
-        <translation> Ayrıntılı görünüş</translation>
+        <translation> Ayrıntılı teknik resim</translation>
     </message>
     <message>
         <source> Dimetric</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Configuration : </source>
-        <translation>Yapılandırma : </translation>
+        <translation>Konfigürasyon : </translation>
     </message>
     <message>
         <source>Creates a 2D representation of the model</source>
@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>Configure</source>
-        <translation>Yapılandır</translation>
+        <translation>Konfigüre et</translation>
     </message>
     <message>
         <source>Log In</source>
@@ -112,11 +112,11 @@
     </message>
     <message>
         <source>Please Login to 3DPH to Download.</source>
-        <translation>İndirmek için lütfen 3DPH oturumu açın.</translation>
+        <translation>İndirmek için lütfen 3DPH hesabınızla oturum açın.</translation>
     </message>
     <message>
         <source>Please enter Search string</source>
-        <translation>Lütfen arama metnini girin</translation>
+        <translation>Lütfen bir arama terimi girin</translation>
     </message>
     <message>
         <source>Preview</source>
