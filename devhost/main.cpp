@@ -29,6 +29,16 @@ bool trust(const QString& caFile)
     return added;
 }
 
+/// Off the screen the toolkit's own font is larger than a desktop's, and a narrow pane looks worse than it is.
+void useDesktopFontSize()
+{
+    if (QGuiApplication::platformName() != "offscreen")
+        return;
+    QFont font = QApplication::font();
+    font.setPointSize(9);
+    QApplication::setFont(font);
+}
+
 int runWindow(const devhost::Options& options)
 {
     devhost::MainWindow window(options.settings);
@@ -54,6 +64,7 @@ int main(int argc, char* argv[])
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     QApplication::setApplicationName("Plotvane Development Host");
+    useDesktopFontSize();
 
     QString error;
     devhost::Options options =

@@ -102,6 +102,7 @@ void PreviewUI::buildConfigureSection()
 
     auto* frame = new SectionFrame(m_form->preview_page);
     auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(5, 3, 5, 3); // as the main panel's section; the row below needs the width
     grid->setVerticalSpacing(0);
 
     m_view = createCaption("View : ");
