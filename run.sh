@@ -10,15 +10,12 @@ has_option() { # has_option NAME ARGUMENTS...
     local wanted=$1 argument
     shift
     for argument in "$@"; do
-        [ "$argument" != "$wanted" ] || return 0
+        case $argument in "$wanted" | "$wanted"=*) return 0 ;; esac
     done
     return 1
 }
 
 install_packages $RUN_PACKAGES
-if has_option --language "$@"; then
-    install_packages fonts-noto-cjk # Japanese, Chinese and Korean are among the languages
-fi
 
 build=${DOCKWIDGET_BUILD_DIR:-build/dev}
 if [ ! -f "$build/build.ninja" ]; then
