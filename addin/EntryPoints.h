@@ -13,7 +13,7 @@ extern "C" {
 /// @return false when the add-in is connected already; true otherwise, whatever failed inside.
 DOCKWIDGET_API bool connectToPlotvane(int ignored, pvApplication_c* application);
 
-/// Undoes the connect, in reverse. @return true, also when the add-in is not connected.
+/// Undoes the connect. @return true, also when the add-in is not connected.
 DOCKWIDGET_API bool disconnectFromPlotvane();
 
 /// @param identifier receives the add-in's identifier; connected or not.

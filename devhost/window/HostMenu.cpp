@@ -49,7 +49,7 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
     addSeparator();
     QAction* reconnect = addAction("&Reconnect Add-in");
     reconnect->setObjectName("reconnect");
-    reconnect->setToolTip("Disconnects the add-in and connects it with what is chosen here");
+    reconnect->setToolTip("Disconnects the add-in and connects it anew; it keeps the theme it read first");
     connect(reconnect, &QAction::triggered, this, &HostMenu::reconnectChosen);
     addSeparator();
     QAction* gallery = addAction("&Styled Widgets…");

@@ -15,7 +15,7 @@ class JournalPanel final : public QDockWidget
     Q_OBJECT
 
 public:
-    /// @param journal must outlive the panel.
+    /// @param journal not owned; may go before the panel does.
     explicit JournalPanel(const Journal& journal, QWidget* parent = nullptr);
 
 private:

@@ -340,7 +340,6 @@ void HostCallsTest::registration()
     QVERIFY(m_addIn->disconnect());
     QCOMPARE(m_addIn->registrations().filter("Panel"), QStringList());
     QCOMPARE(rowItems(m_addIn->host()), itemsBefore);
-    m_addIn->host().RemoveUserInterface(L"5B1C0F4E-27D3-4A96-8E21-0C7DA4E39F52");
 }
 
 QTEST_MAIN(HostCallsTest)
