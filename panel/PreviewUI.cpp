@@ -12,6 +12,7 @@
 #include "panel/RowHeights.h"
 #include "panel/SectionFrame.h"
 #include "panel/SectionTree.h"
+#include "panel/ShownText.h"
 #include "panel/TableItem.h"
 #include "service/ReplyRelease.h"
 #include "service/SessionValues.h"
@@ -225,7 +226,7 @@ void PreviewUI::ConfigData(QNetworkReply* reply)
         answer.document().elementsByTagName(QLatin1String(GetConfigInfoOperation.resultElement));
     for (int i = 0; i < configurations.count(); ++i)
         m_configName = configurations.item(i).firstChild().firstChild().nodeValue();
-    ConfigValueLabel->setText(m_configName);
+    ConfigValueLabel->setText(shownText(m_configName));
 
     sendSoapRequest(GetConfigParamsOperation,
                     {{"apiKey", ApiKey},

@@ -3,6 +3,7 @@
 #include "panel/PartHarbor_2D.h"
 #include "panel/PictureRequest.h"
 #include "panel/PreviewUI.h"
+#include "panel/ShownText.h"
 #include "ui_TableItem.h"
 
 #include <QGridLayout>
@@ -19,7 +20,7 @@ TableItem::~TableItem() = default;
 
 void TableItem::setSupplierName(const QString& name)
 {
-    m_form->label->setText(name);
+    m_form->label->setText(shownText(name));
 }
 
 void TableItem::setThumbnailUrl(const QString& url)
@@ -29,12 +30,12 @@ void TableItem::setThumbnailUrl(const QString& url)
 
 void TableItem::setModelName(const QString& name)
 {
-    m_form->namevaluelabel->setText(name);
+    m_form->namevaluelabel->setText(shownText(name));
 }
 
 void TableItem::setDescription(const QString& description)
 {
-    m_form->descvaluelabel->setPlainText(description);
+    m_form->descvaluelabel->setPlainText(shownText(description));
 }
 
 void TableItem::setRowIndex(int index)

@@ -14,7 +14,8 @@ class TableItem;
 }
 
 /// One search result in a cell of the results table. Fetches its own thumbnail, a click on which opens the
-/// detail page; the row moves into that page and belongs to it from then on.
+/// detail page; the row moves into that page and belongs to it from then on. Its labels are also what the
+/// detail page's requests name the part by (see shownText()).
 class TableItem : public QWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+#include "panel/PreviewUI.h"
 #include "panel/TableItem.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
@@ -43,6 +44,7 @@ private slots:
 
     void rowShowsItsHit();
     void textsAreShownAsTheyCome();
+    void endlessTextsAreCut();
     void rowsMade_data();
     void rowsMade();
     void furtherRowsAreNeverVisible();
@@ -112,6 +114,26 @@ void RowsTest::textsAreShownAsTheyCome()
     }
     QCOMPARE(m_panel->sent(configInfoOperation, "supplierName"), QStringList(markup));
     QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList(markup));
+}
+
+/// A label would take minutes for them.
+void RowsTest::endlessTextsAreCut()
+{
+    const QString endless(1'000'000, 'x');
+    const QString most(10'000, 'x');
+    m_panel->service().setReply(searchOperation,
+                                searchReply({{endless, endless, "pictures/part.png", endless}}));
+    m_panel->service().setReply(configInfoOperation, test::configurationsReply({endless}));
+    m_panel->showResults();
+    QTest::mouseClick(m_panel->row(0)->findChild<QPushButton*>(), Qt::LeftButton);
+    auto* page = m_panel->shown<PreviewUI>();
+    QTRY_COMPARE(m_panel->sent(test::configParamsOperation, "configName"), QStringList(endless));
+    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList(most));
+    auto* row = page->findChild<TableItem*>();
+    QVERIFY(row->findChild<QTextEdit*>()->toPlainText() == most);
+    QVERIFY(row->findChild<QLabel*>("label")->text() == most);
+    for (const QLabel* label : page->findChildren<QLabel*>())
+        QVERIFY(label->text().size() <= most.size()); // the configuration's too
 }
 
 void RowsTest::rowsMade_data()
