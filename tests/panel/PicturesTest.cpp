@@ -5,7 +5,9 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageWriter>
 #include <QPushButton>
+#include <QtEndian>
 #include <QtTest>
 
 using test::PanelFixture;
@@ -26,16 +28,42 @@ QPixmap pictureOf(const QLabel* label)
     return label->pixmap(Qt::ReturnByValue);
 }
 
-/// @return a picture as a file of that format, without its last bytes.
-QByteArray cutPicture(const char* format, int missing)
+/// @return a picture of 60 x 90 pixels as a file of that format.
+QByteArray picture(const char* format, const QString& comment = QString())
 {
     QImage image(60, 90, QImage::Format_RGB32);
     image.fill(Qt::red);
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes.chopped(missing);
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(true);
+    writer.setText("Comment", comment);
+    writer.write(image);
+    return bytes;
+}
+
+/// @return a bitmap whose rows begin at its top, which its header tells by a negative height.
+QByteArray topDownBitmap()
+{
+    QByteArray bytes = picture("BMP");
+    qToLittleEndian<qint32>(-90, bytes.data() + 22);
+    return bytes;
+}
+
+/// @return a picture that is decoded over and over.
+QByteArray photographOfManyScans()
+{
+    QByteArray bytes = picture("JPG");
+    const int lastScan = bytes.lastIndexOf("\xFF\xDA");
+    return bytes.insert(lastScan, bytes.mid(lastScan).chopped(2).repeated(100));
+}
+
+/// @return an icon file that says it is small, around a picture that is not.
+QByteArray iconAround(const QByteArray& png)
+{
+    QByteArray bytes("\0\0\1\0\1\0\x20\x20\0\0\1\0\x20\0\0\0\0\0\x16\0\0\0", 22);
+    qToLittleEndian<qint32>(png.size(), bytes.data() + 14);
+    return bytes + png;
 }
 
 /// @return a small file that takes 1.6 GB and seconds to decode.
@@ -108,17 +136,22 @@ void PicturesTest::thumbnailIsTheRowsIcon()
 
 void PicturesTest::formats_data()
 {
-    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QByteArray>("bytes");
     for (const char* format : {"PNG", "JPG", "BMP"})
-        QTest::addRow("%s", format) << QByteArray(format);
+        QTest::addRow("%s", format) << picture(format);
+    QTest::addRow("bitmap from its top") << topDownBitmap();
+    QTest::addRow("texts are not read") << picture("PNG", QString(10'000'000, 'x'));
 }
 
 void PicturesTest::formats()
 {
-    QFETCH(QByteArray, format);
-    m_panel->service().setReply(picturePath, pictureReply(cutPicture(format, 0)));
+    QFETCH(QByteArray, bytes);
+    m_panel->service().setReply(picturePath, pictureReply(bytes));
     m_panel->showResults();
     QTRY_VERIFY(!thumbnail()->icon().isNull());
+    const QImage shown = thumbnail()->icon().pixmap(60, 90).toImage();
+    QVERIFY(QColor(shown.pixel(30, 45)).red() > 250);
+    QVERIFY(!bytes.startsWith("\x89PNG") || shown.textKeys().isEmpty());
 }
 
 void PicturesTest::largePicturesAreReduced_data()
@@ -197,13 +230,15 @@ void PicturesTest::unusablePictures_data()
     QTest::addRow("text") << pictureReply("no picture");
     QTest::addRow("not found") << ScriptedReply::status(404, "nothing there");
     QTest::addRow("cut image") << pictureReply(png.left(png.size() / 2));
-    QTest::addRow("cut photograph") << pictureReply(cutPicture("JPG", 2));
-    QTest::addRow("cut bitmap") << pictureReply(cutPicture("BMP", 1));
+    QTest::addRow("cut photograph") << pictureReply(picture("JPG").chopped(2));
+    QTest::addRow("cut bitmap") << pictureReply(picture("BMP").chopped(1));
     QTest::addRow("head of an image") << pictureReply(png.left(30));
     QTest::addRow("cut transfer") << ScriptedReply::cutShort(png.left(png.size() / 2));
     QTest::addRow("reset") << ScriptedReply::reset();
     QTest::addRow("endless") << pictureReply(QByteArray(40'000'000, 'x')).heldAfter(39'000'000);
     QTest::addRow("huge") << pictureReply(hugePicture());
+    QTest::addRow("huge in an icon") << pictureReply(iconAround(hugePicture()));
+    QTest::addRow("many scans") << pictureReply(photographOfManyScans());
     QTest::addRow("vectors") << pictureReply("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
                                              "<rect width='9' height='9'/></svg>");
 }
