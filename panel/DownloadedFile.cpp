@@ -5,6 +5,18 @@
 
 int g_downloadCounter = 0;
 
+namespace
+{
+
+/// Control characters as well: a zero cuts the name that a file is opened by, and keeps it from being
+/// removed.
+bool endsFolder(QChar character)
+{
+    return character < QLatin1Char(' ') || QLatin1String("/\\:").contains(character);
+}
+
+} // namespace
+
 DownloadedFile::DownloadedFile(const QString& name) : m_file(QDir::current().absoluteFilePath(name))
 {
     m_file.open(QIODevice::ReadWrite);
@@ -20,7 +32,7 @@ QString fileNameOf(const QString& address)
 {
     const QString path = QUrl(address).path();
     int start = path.size();
-    while (start > 0 && !QLatin1String("/\\:").contains(path[start - 1]))
+    while (start > 0 && !endsFolder(path[start - 1]))
         --start;
     const QString name = path.mid(start);
     return name.isEmpty() ? QString(QLatin1String("index.html")) : name;

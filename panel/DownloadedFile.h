@@ -31,7 +31,8 @@ private:
 };
 
 /// The name that a drawing's address asks for: the last part of its path, "index.html" where that is empty.
-/// What any system takes for a folder or a device is cut off, so the file stays where it is made.
+/// What any system takes for a folder or a drive is cut off, so the file stays where it is made; so is what
+/// stands before a control character, which no system would keep.
 QString fileNameOf(const QString& address);
 
 /// The name a drawing is downloaded under: without ".dwg", with the counter and with ".dwg" again.

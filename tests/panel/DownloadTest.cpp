@@ -252,6 +252,8 @@ void DownloadTest::fileNames_data()
                              << "index.html0.dwg";
     QTest::addRow("query alone") << "?part.dwg"
                                  << "index.html0.dwg";
+    QTest::addRow("zero character") << "/victim%00part.dwg"
+                                    << "part0.dwg";
     QTest::addRow("twice .dwg") << "/part.dwg.dwg"
                                 << "part0.dwg";
     QTest::addRow(".dwg inside") << "/a.dwgb.dwg"
