@@ -2,8 +2,9 @@
 
 #include <QLabel>
 
-/// A label with a link that lets the focus go backwards: the toolkit's own finds its link again with every
-/// Backtab and keeps it.
+/// A label with a link that lets the focus go backwards (the toolkit's own finds its link again with every
+/// Backtab and keeps it), and whose text can be selected but not dragged: during a drag the event loop runs,
+/// and the toolkit's label does not survive that the pane goes meanwhile.
 class LinkLabel : public QLabel
 {
     Q_OBJECT
@@ -13,4 +14,5 @@ public:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void mousePressEvent(QMouseEvent* event) override;
 };

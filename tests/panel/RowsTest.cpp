@@ -45,6 +45,7 @@ private slots:
     void rowShowsItsHit();
     void textsAreShownAsTheyCome();
     void endlessTextsAreCut();
+    void descriptionCannotBeDragged();
     void rowsMade_data();
     void rowsMade();
     void furtherRowsAreNeverVisible();
@@ -134,6 +135,22 @@ void RowsTest::endlessTextsAreCut()
     QVERIFY(row->findChild<QLabel*>("label")->text() == most);
     for (const QLabel* label : page->findChildren<QLabel*>())
         QVERIFY(label->text().size() <= most.size()); // the configuration's too
+}
+
+/// During a drag a late reply may take the row away, under the toolkit's hands.
+void RowsTest::descriptionCannotBeDragged()
+{
+    m_panel->showResults();
+    auto* description = m_panel->row(0)->findChild<QTextEdit*>("descvaluelabel");
+    description->selectAll();
+    const QPoint within = description->cursorRect().center() - QPoint(10, 0);
+    QTest::mousePress(description->viewport(), Qt::LeftButton, Qt::NoModifier, within);
+    QVERIFY(!description->textCursor().hasSelection());
+    QTest::mouseRelease(description->viewport(), Qt::LeftButton, Qt::NoModifier, within);
+
+    description->selectAll();
+    QTest::mouseClick(description->viewport(), Qt::LeftButton, Qt::ShiftModifier, QPoint(20, 10));
+    QVERIFY(description->textCursor().hasSelection());
 }
 
 void RowsTest::rowsMade_data()
