@@ -13,3 +13,7 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
     emit release();
 }
+
+void ClickableLabel::mouseDoubleClickEvent(QMouseEvent* /*event*/)
+{
+}
