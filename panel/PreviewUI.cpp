@@ -37,6 +37,14 @@ namespace
 // look the same here.
 constexpr int ColumnSpan = 129;
 
+QGridLayout* createGrid(SectionFrame* section)
+{
+    auto* grid = new QGridLayout(section);
+    grid->setContentsMargins(5, 3, 5, 3); // as the main panel's section; the result row needs the width
+    grid->setVerticalSpacing(0);
+    return grid;
+}
+
 void addToColumn(QGridLayout* grid, int row, QWidget* widget)
 {
     widget->setMinimumHeight(25);
@@ -102,10 +110,7 @@ void PreviewUI::buildConfigureSection()
     m_sectionItems.append(section.item);
 
     auto* frame = new SectionFrame(m_form->preview_page);
-    auto* grid = new QGridLayout(frame);
-    grid->setContentsMargins(5, 3, 5, 3); // as the main panel's section; the row below needs the width
-    grid->setVerticalSpacing(0);
-
+    QGridLayout* grid = createGrid(frame);
     m_view = createCaption("View : ");
     addToColumn(grid, 0, m_view);
     m_viewComboBox = new QComboBox;
@@ -145,8 +150,7 @@ void PreviewUI::buildPreviewSection()
     m_sectionItems.append(section.item);
 
     auto* frame = new SectionFrame(m_form->preview_page);
-    auto* grid = new QGridLayout(frame);
-    grid->setVerticalSpacing(0);
+    QGridLayout* grid = createGrid(frame);
     m_preview_label = new ClickableLabel(frame, Qt::WindowFlags());
     m_preview_label->setMinimumHeight(200);
     m_preview_label->setStyleSheet(QLatin1String("margin: 0px;")); // the frame's would distort the picture
