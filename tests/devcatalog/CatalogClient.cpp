@@ -1,9 +1,7 @@
 #include "tests/devcatalog/CatalogClient.h"
 
 #include <QDomDocument>
-#include <QNetworkReply>
 #include <QSignalSpy>
-#include <QSslCertificate>
 #include <QSslSocket>
 
 #include <algorithm>
@@ -69,20 +67,12 @@ QString HttpAnswer::text(const QString& element) const
 CatalogClient::CatalogClient(int port, const QString& caFile)
     : m_port(port), m_tls(QSslConfiguration::defaultConfiguration())
 {
-    m_tls.setCaCertificates(QSslCertificate::fromPath(caFile));
+    m_tls.addCaCertificates(caFile);
 }
 
-HttpAnswer CatalogClient::get(const QString& path)
+HttpAnswer CatalogClient::get(const QString& path) const
 {
-    QNetworkRequest request{QUrl(address(path))};
-    request.setSslConfiguration(m_tls);
-    QNetworkReply* const reply = m_manager.get(request);
-    QSignalSpy finished(reply, &QNetworkReply::finished);
-    finished.wait(patience);
-    HttpAnswer answer{reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
-                      reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(), reply->readAll()};
-    reply->deleteLater();
-    return answer;
+    return parseAnswer(exchange("GET " + path.toUtf8() + " HTTP/1.1\r\nHost: localhost\r\n\r\n"));
 }
 
 HttpAnswer CatalogClient::post(const SoapRequest& request) const
@@ -96,16 +86,17 @@ QByteArray CatalogClient::exchange(const QByteArray& bytes, qint64* sent) const
     socket.setSslConfiguration(m_tls);
     QSignalSpy disconnected(&socket, &QSslSocket::disconnected);
     socket.connectToHostEncrypted("127.0.0.1", static_cast<quint16>(m_port));
-    if (socket.waitForEncrypted(patience)) {
-        if (sent) {
-            *sent = 0;
-            QObject::connect(&socket, &QSslSocket::encryptedBytesWritten,
-                             [sent](qint64 count) { *sent += count; });
-        }
-        socket.write(bytes);
-        if (disconnected.isEmpty()) {
-            disconnected.wait(patience);
-        }
+    if (!socket.waitForEncrypted(patience)) {
+        return {};
+    }
+    if (sent) {
+        *sent = 0;
+        QObject::connect(&socket, &QSslSocket::encryptedBytesWritten,
+                         [sent](qint64 count) { *sent += count; });
+    }
+    socket.write(bytes);
+    if (disconnected.isEmpty()) {
+        disconnected.wait(patience);
     }
     return socket.readAll();
 }

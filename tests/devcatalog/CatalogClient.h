@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
 #include <QPair>
 #include <QSslConfiguration>
 #include <QString>
@@ -37,7 +36,7 @@ public:
     /// @param caFile in PEM form.
     CatalogClient(int port, const QString& caFile);
 
-    HttpAnswer get(const QString& path);
+    HttpAnswer get(const QString& path) const;
     HttpAnswer post(const SoapRequest& request) const;
 
     /// Sends bytes as they are; ends when the server has closed the connection.
@@ -51,7 +50,6 @@ public:
 private:
     int m_port;
     QSslConfiguration m_tls;
-    QNetworkAccessManager m_manager;
 };
 
 } // namespace test

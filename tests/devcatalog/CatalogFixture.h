@@ -25,7 +25,7 @@ public:
 
     const devcatalog::PartCatalog& catalog() const { return m_catalog; }
     devcatalog::CatalogServer& server() { return *m_server; }
-    CatalogClient& client() { return *m_client; }
+    const CatalogClient& client() const { return *m_client; }
 
     /// The client's session, and the catalog's first part.
     const ClientValues& values() const { return m_values; }

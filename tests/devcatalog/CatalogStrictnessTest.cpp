@@ -25,6 +25,11 @@ bool takesAnyText(const QByteArray& operation, const QByteArray& element)
     return free.contains(element) || (operation == "UserLogin" && element == "password");
 }
 
+void refuse(const QByteArray& name, const SoapRequest& request, const QString& cause)
+{
+    QTest::newRow(name) << request << cause;
+}
+
 } // namespace
 
 /// Holds the development catalog to its strictness: whatever differs from the wire contract is refused with a
@@ -34,54 +39,42 @@ class CatalogStrictnessTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { m_fixture = std::make_unique<test::CatalogFixture>(); }
+    void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
+    void cleanup() { m_warnings.reset(); }
 
-    void changedElementsAreRefused_data();
-    void changedElementsAreRefused() { requireRefusal(); }
-    void changedEnvelopesAreRefused_data();
-    void changedEnvelopesAreRefused() { requireRefusal(); }
-    void changedHeadersAreRefused_data();
-    void changedHeadersAreRefused() { requireRefusal(); }
-    void changedValuesAreRefused_data();
-    void changedValuesAreRefused() { requireRefusal(); }
-    void hostileBodiesAreRefused_data();
-    void hostileBodiesAreRefused() { requireRefusal(); }
+    void changedRequestsAreRefused_data();
+    void changedRequestsAreRefused();
     void hostileConnectionsDoNoHarm_data();
     void hostileConnectionsDoNoHarm();
 
 private:
-    void beginTable() const;
     void addChangedElements(const RightForm& form, int index) const;
-    void requireRefusal();
+    void addChangedEnvelopes() const;
+    void addChangedHeaders() const;
+    void addChangedValues() const;
+    void addHostileBodies() const;
 
     std::unique_ptr<test::CatalogFixture> m_fixture;
     std::unique_ptr<test::FatalWarnings> m_warnings;
 };
 
-void CatalogStrictnessTest::initTestCase()
-{
-    m_fixture = std::make_unique<test::CatalogFixture>();
-}
-
-void CatalogStrictnessTest::init()
-{
-    m_warnings = std::make_unique<test::FatalWarnings>();
-}
-
-void CatalogStrictnessTest::cleanup()
-{
-    m_warnings.reset();
-}
-
-void CatalogStrictnessTest::beginTable() const
+void CatalogStrictnessTest::changedRequestsAreRefused_data()
 {
     QTest::addColumn<SoapRequest>("request");
     QTest::addColumn<QString>("cause");
+    for (const RightForm& form : rightForms(m_fixture->values())) {
+        for (int index = 0; index < form.elements.size(); ++index) {
+            addChangedElements(form, index);
+        }
+    }
+    addChangedEnvelopes();
+    addChangedHeaders();
+    addChangedValues();
+    addHostileBodies();
 }
 
-void CatalogStrictnessTest::requireRefusal()
+void CatalogStrictnessTest::changedRequestsAreRefused()
 {
     QFETCH(SoapRequest, request);
     QFETCH(QString, cause);
@@ -94,125 +87,105 @@ void CatalogStrictnessTest::requireRefusal()
     QVERIFY2(!fault.contains("Service & <Password>"), qPrintable(fault));
 }
 
-void CatalogStrictnessTest::changedElementsAreRefused_data()
-{
-    beginTable();
-    for (const RightForm& form : rightForms(m_fixture->values())) {
-        for (int index = 0; index < form.elements.size(); ++index) {
-            addChangedElements(form, index);
-        }
-    }
-}
-
 /// Takes one element out, doubles, moves, renames it, gives it an attribute or a child, and changes its text.
 void CatalogStrictnessTest::addChangedElements(const RightForm& form, int index) const
 {
-    const QByteArray element = form.elements.at(index).first;
-    const QByteArray value = form.elements.at(index).second;
+    const auto& [element, value] = form.elements.at(index);
     const QByteArray line = elementLine(element, value);
     const QString named = "'" + element + "'";
-    const auto refuse = [&](const QByteArray& change, const QByteArray& changed, const QString& cause) {
-        SoapRequest request = form.request(m_fixture->serviceHost());
-        request.body.replace(line, changed);
-        QTest::newRow(form.operation + " " + element + " " + change) << request << cause;
+    const SoapRequest right = form.request(m_fixture->serviceHost());
+    const auto change = [&](const char* name, const QByteArray& part, const QByteArray& changed,
+                            const QString& cause) {
+        SoapRequest request = right;
+        request.body.replace(line, QByteArray(line).replace(part, changed));
+        refuse(form.operation + " " + element + " " + name, request, cause);
     };
-    refuse("missing", "", named);
-    refuse("twice", line + line, named);
-    refuse("renamed", QByteArray(line).replace(element, element.toUpper()), named);
-    refuse("prefixed", QByteArray(line).replace(element, "soap:" + element), named);
-    refuse("with an attribute", QByteArray(line).replace("<" + element, "<" + element + " a='b'"),
+    change("missing", line, "", named);
+    change("twice", line, line + line, named);
+    change("renamed", element, element.toUpper(), named);
+    change("prefixed", element, "soap:" + element, named);
+    change("with an attribute", "<" + element, "<" + element + " a='b'",
            named + " has an attribute too many: 'a'");
-    refuse("with a child", QByteArray(line).replace("</", "<x/></"), named + " must hold");
-    refuse("with its placeholder", elementLine(element, "string"), named + " must hold");
+    change("with a child", "</", "<x/></", named + " must hold");
+    change("with its placeholder", line, elementLine(element, "string"), named + " must hold");
     if (!takesAnyText(form.operation, element)) {
-        refuse("with another value", elementLine(element, "x" + value), named + " must hold");
+        change("with another value", line, elementLine(element, "x" + value), named + " must hold");
     }
     if (index + 1 < form.elements.size()) {
         const auto& [nextElement, nextValue] = form.elements.at(index + 1);
         const QByteArray nextLine = elementLine(nextElement, nextValue);
-        SoapRequest swapped = form.request(m_fixture->serviceHost());
+        SoapRequest swapped = right;
         swapped.body.replace(line + nextLine, nextLine + line);
-        QTest::newRow(form.operation + " " + element + " after its neighbour") << swapped << named;
+        refuse(form.operation + " " + element + " after its neighbour", swapped, named);
     }
 }
 
-void CatalogStrictnessTest::changedEnvelopesAreRefused_data()
+void CatalogStrictnessTest::addChangedEnvelopes() const
 {
-    beginTable();
     const SoapRequest right = m_fixture->request("SimpleSearchAcrossCatalogs");
-    const auto refuse = [&right](const char* name, const QByteArray& part, const QByteArray& changed,
+    const auto change = [&right](const QByteArray& name, const QByteArray& part, const QByteArray& changed,
                                  const QString& cause) {
         SoapRequest request = right;
         request.body.replace(part, changed);
         QVERIFY2(request.body != right.body, name);
-        QTest::newRow(name) << request << cause;
+        refuse(name, request, cause);
     };
-    const QByteArray host = m_fixture->serviceHost();
-    const QByteArray soap12 = "http://www.w3.org/2003/05/soap-envelope";
-    refuse("no declaration", "<?xml version='1.0' encoding='utf-8'?>\n", "", "XML declaration");
-    refuse("version 1.1", "version='1.0'", "version='1.1'", "'version'");
-    refuse("another encoding", "encoding='utf-8'", "encoding='utf-16'", "'encoding'");
-    refuse("a blank first", "<?xml", " <?xml", "XML declaration");
-    refuse("a byte order mark", "<?xml", "\xef\xbb\xbf<?xml", "XML declaration");
-    refuse("SOAP 1.2", "http://schemas.xmlsoap.org/soap/envelope/", soap12, "'xmlns:soap'");
-    refuse("xsd of another year", "2001/XMLSchema\"", "1999/XMLSchema\"", "'xmlns:xsd'");
-    refuse("no xsi", " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"", "", "'xmlns:xsi'");
-    refuse("xsd twice", "<soap:Envelope", "<soap:Envelope xmlns:xsd='http://www.w3.org/2001/XMLSchema'",
+    change("no declaration", "<?xml version='1.0' encoding='utf-8'?>\n", "", "XML declaration");
+    change("version 1.1", "version='1.0'", "version='1.1'", "'version'");
+    change("another encoding", "encoding='utf-8'", "encoding='utf-16'", "'encoding'");
+    change("a byte order mark", "<?xml", "\xef\xbb\xbf<?xml", "XML declaration");
+    for (const QByteArray name : {"xmlns:soap", "xmlns:xsd", "xmlns:xsi", "xmlns"}) {
+        change("no " + name, name + "=", "id=", "'" + name + "'");
+        change("another " + name, name + "=\"http", name + "=\"https", "'" + name + "'");
+    }
+    change("xsd twice", "<soap:Envelope", "<soap:Envelope xmlns:xsd='http://www.w3.org/2001/XMLSchema'",
            "'xmlns:xsd'");
-    refuse("another prefix", "soap:", "env:", "'soap:Envelope'");
-    refuse("a header", " <soap:Body>", " <soap:Header/><soap:Body>", "'soap:Header'");
-    refuse("an attribute of the body", "<soap:Body>", "<soap:Body id='1'>", "'id'");
-    refuse("two bodies", "</soap:Body>", "</soap:Body><soap:Body/>", "'soap:Body'");
-    refuse("another namespace", "/Content\"", "/content\"", "'xmlns'");
-    refuse("https in the namespace", "\"http://" + host, "\"https://" + host, "'xmlns'");
-    refuse("no namespace", " xmlns=\"http://" + host + "/Content\"", "", "'xmlns'");
-    refuse("another operation", "SimpleSearchAcrossCatalogs", "GetConfigInfo",
-           "'SimpleSearchAcrossCatalogs'");
-    refuse("two operations", " </soap:Body>", "<GetConfigInfo/></soap:Body>", "'GetConfigInfo'");
-    refuse("an element more", "  </Simple", "  <more/></Simple", "'more'");
-    refuse("a comment", "   <apiKey>", "<!-- c --><apiKey>", "a comment");
-    refuse("an instruction", "   <apiKey>", "<?php ?><apiKey>", "a processing instruction");
-    refuse("loose text", "   <apiKey>", "loose<apiKey>", "text");
-    refuse("text after the end", "</soap:Envelope>\n", "</soap:Envelope>tail", "text");
-    refuse("a document type", "<soap:Envelope", "<!DOCTYPE x><soap:Envelope", "a document type");
-    refuse("CDATA", ">Base<", "><![CDATA[Base]]><", "'language' must hold plain text");
+    change("another prefix", "soap:", "env:", "'soap:Envelope'");
+    change("a header", " <soap:Body>", " <soap:Header/><soap:Body>", "'soap:Header'");
+    change("an attribute of the body", "<soap:Body>", "<soap:Body id='1'>", "'id'");
+    change("two bodies", "</soap:Body>", "</soap:Body><soap:Body/>", "'soap:Body'");
+    change("another operation", "SimpleSearchAcrossCatalogs", "GetConfigInfo", "'GetConfigInfo'");
+    change("two operations", " </soap:Body>", "<GetConfigInfo/></soap:Body>", "'GetConfigInfo'");
+    change("an element more", "  </Simple", "  <more/></Simple", "'more'");
+    change("a comment", "   <apiKey>", "<!-- c --><apiKey>", "a comment");
+    change("an instruction", "   <apiKey>", "<?php ?><apiKey>", "a processing instruction");
+    change("loose text", "   <apiKey>", "loose<apiKey>", "text");
+    change("text after the end", "</soap:Envelope>\n", "</soap:Envelope>tail", "text");
+    change("a document type", "<soap:Envelope", "<!DOCTYPE x><soap:Envelope", "a document type");
+    change("CDATA", ">Base<", "><![CDATA[Base]]><", "'language' must hold plain text");
 }
 
-void CatalogStrictnessTest::changedHeadersAreRefused_data()
+void CatalogStrictnessTest::addChangedHeaders() const
 {
-    beginTable();
     const SoapRequest right = m_fixture->request("SimpleSearchAcrossCatalogs");
-    const auto refuse = [&right](const char* name, const QByteArray& header, const QByteArray& value,
+    const auto change = [&right](const char* name, const QByteArray& header, const QByteArray& value,
                                  const QString& cause) {
         SoapRequest request = right;
         request.setHeader(header, value);
-        QTest::newRow(name) << request << cause;
+        refuse(name, request, cause);
     };
-    const QByteArray prefix = m_fixture->serviceHost() + "/Content/";
-    const QByteArray action = "http://" + prefix + "SimpleSearchAcrossCatalogs";
-    refuse("quoted action", "SOAPAction", "\"" + action + "\"", "quotation marks");
-    refuse("action without namespace", "SOAPAction", "SimpleSearchAcrossCatalogs", "SOAPAction");
-    refuse("action with https", "SOAPAction", "https" + action.mid(4), "SOAPAction");
-    refuse("unknown action", "SOAPAction", "http://" + prefix + "GetModelDetail", "GetModelDetail");
-    refuse("action of another endpoint", "SOAPAction", "http://" + prefix + "ServiceLogin",
+    const QByteArray prefix = "http://" + m_fixture->serviceHost() + "/Content/";
+    const QByteArray action = prefix + "SimpleSearchAcrossCatalogs";
+    change("quoted action", "SOAPAction", "\"" + action + "\"", "quotation marks");
+    change("action without namespace", "SOAPAction", "SimpleSearchAcrossCatalogs", "SOAPAction");
+    change("action with https", "SOAPAction", "https" + action.mid(4), "SOAPAction");
+    change("unknown action", "SOAPAction", prefix + "GetModelDetail", "GetModelDetail");
+    change("action of another endpoint", "SOAPAction", prefix + "ServiceLogin",
            "'/ContentWS/contentws.asmx'");
-    refuse("action of another body", "SOAPAction", "http://" + prefix + "GetConfigInfo", "'GetConfigInfo'");
-    refuse("empty action", "SOAPAction", "", "'soapaction' is missing");
-    refuse("another type", "Content-Type", "application/soap+xml; charset=utf-8", "'content-type'");
-    refuse("another charset", "Content-Type", "text/xml; charset=latin1", "'content-type'");
-    refuse("no charset", "Content-Type", "text/xml", "'content-type'");
-    refuse("a form", "Content-Type", "multipart/form-data; boundary=x", "'content-type'");
-    refuse("an encoding", "Content-Encoding", "gzip", "encoded");
-    for (const char* header : {"Content-Type", "SOAPAction"}) {
-        SoapRequest missing = right;
-        missing.removeHeader(header);
-        QTest::addRow("no %s", header) << missing << QString("'%1' is missing").arg(header).toLower();
-        SoapRequest doubled = right;
-        doubled.headers += right.headers;
-        QTest::addRow("two of %s", header) << doubled << "more than once";
+    change("action of another body", "SOAPAction", prefix + "GetConfigInfo", "'GetConfigInfo'");
+    change("empty action", "SOAPAction", "", "'soapaction' is missing");
+    change("another type", "Content-Type", "application/soap+xml; charset=utf-8", "'content-type'");
+    change("no charset", "Content-Type", "text/xml", "'content-type'");
+    change("a form", "Content-Type", "multipart/form-data; boundary=x", "'content-type'");
+    change("an encoding", "Content-Encoding", "gzip", "encoded");
+    for (const auto& header : right.headers) {
+        SoapRequest request = right;
+        request.headers.append(header);
+        refuse("two of " + header.first, request, "more than once");
+        request.removeHeader(header.first);
+        refuse("no " + header.first, request, "'" + header.first.toLower() + "' is missing");
     }
-
-    const QPair<const char*, QString> paths[] = {
+    const QPair<QByteArray, QString> paths[] = {
         {"/ContentWS/contentws.asmx", "'/ContentWS/ExternalWS.asmx'"},
         {"/contentws/externalws.asmx", "no endpoint"},
         {"/", "no endpoint"},
@@ -220,63 +193,60 @@ void CatalogStrictnessTest::changedHeadersAreRefused_data()
     for (const auto& [path, cause] : paths) {
         SoapRequest request = right;
         request.path = path;
-        QTest::newRow(path) << request << cause;
+        refuse(path, request, cause);
     }
 }
 
-void CatalogStrictnessTest::changedValuesAreRefused_data()
+void CatalogStrictnessTest::addChangedValues() const
 {
-    beginTable();
     const test::ClientValues& values = m_fixture->values();
-    const auto refuse = [this](const char* operation, const char* element, const QByteArray& value,
-                               const QString& cause) {
+    const auto change = [this](const QByteArray& operation, const QByteArray& element,
+                               const QByteArray& value, const QString& cause) {
         RightForm form = m_fixture->form(operation);
         form.value(element) = value;
-        QTest::addRow("%s '%s'", element, value.constData())
-            << form.request(m_fixture->serviceHost()) << cause;
+        refuse(element + " '" + value + "'", form.request(m_fixture->serviceHost()), cause);
     };
     for (const char* page : {"two", "1.5", " 1", "99999999999", "", "int"}) {
-        refuse("SimpleSearchAcrossCatalogs", "pageNumber", page, "a whole number");
+        change("SimpleSearchAcrossCatalogs", "pageNumber", page, "a whole number");
     }
-    refuse("GenerateApiKeyByDescription", "sessionId", "", "'sessionId'");
-    refuse("SimpleSearchAcrossCatalogs", "apiKey", "", "'apiKey'");
-    refuse("SimpleSearchAcrossCatalogs", "apiKey", values.sessionId, "'apiKey'");
-    refuse("GetDownload2D", "userToken", values.apiKey, "'userToken'");
-    refuse("GetDownload2D", "drawingView", " Front", "a drawing view");
-    refuse("GetDownload2D", "inputParameters", "\n   ", "nothing");
-    refuse("GetConfigInfo", "supplierName", "Nobody & Sons", "'Nobody & Sons'");
-    refuse("GetConfigParams", "modelName", " " + values.model, "has no model");
-    refuse("GetConfigParams", "configName", "", "has no configuration");
-    refuse("GetDownload2D", "configName", "other", "has no configuration 'other'");
+    change("GenerateApiKeyByDescription", "sessionId", "", "'sessionId'");
+    change("SimpleSearchAcrossCatalogs", "apiKey", "", "'apiKey'");
+    change("SimpleSearchAcrossCatalogs", "apiKey", values.sessionId, "'apiKey'");
+    change("GetDownload2D", "userToken", values.apiKey, "'userToken'");
+    change("GetDownload2D", "drawingView", " Front", "a drawing view");
+    change("GetDownload2D", "inputParameters", "\n   ", "nothing");
+    change("GetConfigInfo", "supplierName", "Nobody & Sons", "'Nobody & Sons'");
+    change("GetConfigParams", "modelName", " " + values.model, "has no model");
+    change("GetConfigParams", "configName", "", "has no configuration");
+    change("GetDownload2D", "configName", "other", "has no configuration 'other'");
 }
 
-void CatalogStrictnessTest::hostileBodiesAreRefused_data()
+void CatalogStrictnessTest::addHostileBodies() const
 {
-    beginTable();
-    const auto refuse = [this](const char* name, const QByteArray& body, const QString& cause) {
+    const auto change = [this](const char* name, const QByteArray& body, const QString& cause) {
         SoapRequest request = m_fixture->request("ServiceLogin");
         request.body = "<?xml version='1.0' encoding='utf-8'?>" + body;
-        QTest::newRow(name) << request << cause;
+        refuse(name, request, cause);
     };
     const QString notWellFormed = "not well-formed";
     const QString noText = "no XML text";
     const QByteArray opened = QByteArray("<a>").repeated(50000);
-    refuse("empty", "", "'soap:Envelope' is missing");
-    refuse("cut", "<soap:Envelope><soap:Bo", notWellFormed);
-    refuse("crossed", "<a><b></a></b>", notWellFormed);
-    refuse("deep", opened, notWellFormed);
-    refuse("deep and closed", opened + QByteArray("</a>").repeated(50000), "'soap:Envelope'");
-    refuse("deep document type", "<!DOCTYPE a " + QByteArray("[<!").repeated(100000), notWellFormed);
-    refuse("entity bomb", "<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&b;&b;'>]><a>&d;</a>", noText);
-    refuse("unknown reference", "<a>&nbsp;</a>", noText);
-    refuse("bare ampersand", "<a>bolt & nut</a>", noText);
-    refuse("reference to no character", "<a>&#0;</a>", noText);
-    refuse("zero byte", QByteArray("<a>\0</a>", 8), noText);
-    refuse("Latin-1", "<a>\xe4</a>", noText);
-    refuse("overlong UTF-8", "<a>\xe0\x80\xbc</a>", noText);
-    refuse("surrogates", "<a>\xed\xa0\x80</a>", noText);
-    refuse("long name", "<" + QByteArray("n").repeated(100000) + "/>", "...'");
-    refuse("600 KB", QByteArray(600000, 'x'), "too long");
+    change("empty", "", "'soap:Envelope' is missing");
+    change("cut", "<soap:Envelope><soap:Bo", notWellFormed);
+    change("crossed", "<a><b></a></b>", notWellFormed);
+    change("deep", opened, notWellFormed);
+    change("deep and closed", opened + QByteArray("</a>").repeated(50000), "'soap:Envelope'");
+    change("deep document type", "<!DOCTYPE a " + QByteArray("[<!").repeated(100000), notWellFormed);
+    change("entity bomb", "<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&b;&b;'>]><a>&d;</a>", noText);
+    change("unknown reference", "<a>&nbsp;</a>", noText);
+    change("bare ampersand", "<a>bolt & nut</a>", noText);
+    change("reference to no character", "<a>&#0;</a>", noText);
+    change("zero byte", QByteArray("<a>\0</a>", 8), noText);
+    change("Latin-1", "<a>\xe4</a>", noText);
+    change("overlong UTF-8", "<a>\xe0\x80\xbc</a>", noText);
+    change("surrogates", "<a>\xed\xa0\x80</a>", noText);
+    change("long name", "<" + QByteArray("n").repeated(100000) + "/>", "...'");
+    change("600 KB", QByteArray(600000, 'x'), "too long");
 }
 
 void CatalogStrictnessTest::hostileConnectionsDoNoHarm_data()

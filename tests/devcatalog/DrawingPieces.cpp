@@ -8,15 +8,15 @@ using namespace devcatalog;
 namespace test
 {
 
-bool DrawingPiece::isHorizontal() const
+namespace
 {
-    return bulge == 0 && std::abs(to.y - from.y) < 1e-9;
+
+bool areNear(const Point2& a, const Point2& b)
+{
+    return std::hypot(b.x - a.x, b.y - a.y) < 1e-4;
 }
 
-bool DrawingPiece::isVertical() const
-{
-    return bulge == 0 && std::abs(to.x - from.x) < 1e-9;
-}
+} // namespace
 
 double DrawingPiece::length() const
 {
@@ -52,6 +52,28 @@ double DrawingPiece::distanceTo(const Point2& point) const
     return std::hypot(point.x - from.x - nearest * along.x, point.y - from.y - nearest * along.y);
 }
 
+bool DrawingPiece::covers(const DrawingPiece& other) const
+{
+    if (bulge != 0 || other.bulge != 0)
+        return kind == other.kind &&
+               ((areNear(from, other.from) && areNear(to, other.to) &&
+                 std::abs(bulge - other.bulge) < 1e-3) ||
+                (areNear(from, other.to) && areNear(to, other.from) && std::abs(bulge + other.bulge) < 1e-3));
+    const Point2 along{(to.x - from.x) / length(), (to.y - from.y) / length()};
+    const auto beside = [&](const Point2& point) {
+        return along.x * (point.y - from.y) - along.y * (point.x - from.x);
+    };
+    const auto position = [&](const Point2& point) {
+        return along.x * (point.x - from.x) + along.y * (point.y - from.y);
+    };
+    constexpr double tolerance = 1e-5;
+    if (std::abs(beside(other.from)) > tolerance || std::abs(beside(other.to)) > tolerance)
+        return false;
+    const double first = std::min(position(other.from), position(other.to));
+    const double last = std::max(position(other.from), position(other.to));
+    return std::min(last, length()) - std::max(first, 0.0) > 100 * tolerance;
+}
+
 QString DrawingPiece::toString() const
 {
     return QString("kind %1 from %2, %3 to %4, %5 bulge %6")
@@ -63,10 +85,12 @@ QString DrawingPiece::toString() const
         .arg(bulge);
 }
 
-std::vector<DrawingPiece> piecesOf(const Drawing& drawing)
+std::vector<DrawingPiece> piecesOf(const Drawing& drawing, std::optional<LineKind> kind)
 {
     std::vector<DrawingPiece> pieces;
     for (const Entity& entity : drawing.entities) {
+        if (kind && *kind != entity.kind)
+            continue;
         if (const auto* line = std::get_if<LineSegment>(&entity.shape))
             pieces.push_back({entity.kind, line->from, line->to, 0});
         const auto* polyline = std::get_if<Polyline>(&entity.shape);
@@ -95,24 +119,6 @@ std::vector<Entity> edgesOf(const Drawing& drawing)
     std::copy_if(drawing.entities.begin(), drawing.entities.end(), std::back_inserter(edges),
                  [](const Entity& entity) { return entity.kind != LineKind::Centre; });
     return edges;
-}
-
-bool overlap(const DrawingPiece& a, const DrawingPiece& b)
-{
-    const double length = a.length();
-    const Point2 along{(a.to.x - a.from.x) / length, (a.to.y - a.from.y) / length};
-    const auto beside = [&](const Point2& point) {
-        return along.x * (point.y - a.from.y) - along.y * (point.x - a.from.x);
-    };
-    const auto position = [&](const Point2& point) {
-        return along.x * (point.x - a.from.x) + along.y * (point.y - a.from.y);
-    };
-    constexpr double tolerance = 1e-5;
-    if (std::abs(beside(b.from)) > tolerance || std::abs(beside(b.to)) > tolerance)
-        return false;
-    const double from = std::min(position(b.from), position(b.to));
-    const double to = std::max(position(b.from), position(b.to));
-    return std::min(to, length) - std::max(from, 0.0) > 100 * tolerance;
 }
 
 } // namespace test

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace test
@@ -16,26 +17,24 @@ struct DrawingPiece {
     devcatalog::Point2 to;
     double bulge = 0.0;
 
-    bool isHorizontal() const;
-    bool isVertical() const;
     double length() const; ///< Of the chord.
     devcatalog::Point2 middle() const;
     /// A quick check; where it says no, distanceTo is beyond the tolerance.
     bool mayReach(const devcatalog::Point2& point, double tolerance) const;
     double distanceTo(const devcatalog::Point2& point) const;
+    /// Whether straight pieces cover one another for some length, or arcs of one kind are the same.
+    bool covers(const DrawingPiece& other) const;
     QString toString() const;
 };
 
-/// Takes a drawing's lines and polylines apart; circles are left out.
-std::vector<DrawingPiece> piecesOf(const devcatalog::Drawing& drawing);
+/// Takes a drawing's lines and polylines apart, all of them or those of one kind; circles are left out.
+std::vector<DrawingPiece> piecesOf(const devcatalog::Drawing& drawing,
+                                   std::optional<devcatalog::LineKind> kind = std::nullopt);
 
 /// A drawing's circles of one kind.
 std::vector<devcatalog::Circle> circlesOf(const devcatalog::Drawing& drawing, devcatalog::LineKind kind);
 
 /// The entities that are not centre lines.
 std::vector<devcatalog::Entity> edgesOf(const devcatalog::Drawing& drawing);
-
-/// @return whether two straight pieces cover one another for some length.
-bool overlap(const DrawingPiece& a, const DrawingPiece& b);
 
 } // namespace test

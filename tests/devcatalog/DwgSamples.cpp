@@ -2,8 +2,6 @@
 // ours. Usage: dwg_samples FOLDER
 
 #include "devcatalog/drawings/DwgWriter.h"
-#include "devcatalog/drawings/PartDrawing.h"
-#include "devcatalog/parts/PartCatalog.h"
 #include "tests/devcatalog/SampleDrawings.h"
 
 #include <QDir>
@@ -15,9 +13,7 @@
 #include <array>
 #include <cstdio>
 #include <exception>
-#include <set>
 #include <stdexcept>
-#include <utility>
 
 using namespace devcatalog;
 
@@ -29,18 +25,7 @@ QJsonArray toJson(Point2 point)
     return {point.x, point.y};
 }
 
-QString layerName(LineKind kind)
-{
-    switch (kind) {
-    case LineKind::Outline:
-        return "Outline";
-    case LineKind::Hidden:
-        return "Hidden";
-    case LineKind::Centre:
-        return "Centre";
-    }
-    throw std::invalid_argument("A line kind without a layer");
-}
+constexpr std::array<const char*, 3> layerNames = {"Outline", "Hidden", "Centre"}; ///< by kind
 
 struct ShapeToJson {
     QJsonObject operator()(const LineSegment& line) const
@@ -72,7 +57,7 @@ struct ShapeToJson {
 QJsonObject toJson(const Entity& entity)
 {
     QJsonObject json = std::visit(ShapeToJson(), entity.shape);
-    json["layer"] = layerName(entity.kind);
+    json["layer"] = layerNames.at(static_cast<std::size_t>(entity.kind));
     return json;
 }
 
@@ -85,58 +70,25 @@ QByteArray toJson(const Drawing& drawing)
     return QJsonDocument({{"title", QString::fromStdString(drawing.title)}, {"entities", entities}}).toJson();
 }
 
-class SampleFolder
+void writeFile(const QString& path, const QByteArray& bytes)
 {
-public:
-    explicit SampleFolder(const QString& path) : m_folder(path)
-    {
-        // Files of a part that is no longer in the catalog must not be compared again.
-        if (!m_folder.removeRecursively() || !m_folder.mkpath(".")) {
-            throw std::runtime_error("Cannot make the folder " + path.toStdString());
-        }
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        throw std::runtime_error("Cannot write " + path.toStdString());
     }
+}
 
-    void write(const QString& name, const Drawing& drawing)
-    {
-        writeFile(name + ".dwg", QByteArray::fromStdString(writeDwg(drawing)));
-        writeFile(name + ".json", toJson(drawing));
-    }
-
-private:
-    void writeFile(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            throw std::runtime_error("Cannot write " + file.fileName().toStdString());
-        }
-    }
-
-    QDir m_folder;
-};
-
-constexpr std::array<const char*, 12> views = {
-    "eDrawingView_PREDEFINED", "eDrawingView_4VIEW",     "eDrawingView_MULTI",    "eDrawingView_FRONT",
-    "eDrawingView_TOP",        "eDrawingView_RIGHT",     "eDrawingView_BACK",     "eDrawingView_BOTTOM",
-    "eDrawingView_LEFT",       "eDrawingView_ISOMETRIC", "eDrawingView_DIMETRIC", "eDrawingView_TRIMETRIC"};
-
-/// One drawing of every family in every view.
-void writeParts(SampleFolder& folder)
+void writeSamples(const QString& path)
 {
-    const PartCatalog catalog;
-    std::set<std::pair<std::string, std::string>> written;
-    for (const Part& part : catalog.parts()) {
-        for (const char* const view : views) {
-            if (written.count({part.family, view}) != 0) {
-                continue;
-            }
-            if (const auto drawing = drawPart(part, part.configurations.front(), view)) {
-                folder.write(QString::fromStdString(part.family) + '-' + view, *drawing);
-                written.insert({part.family, view});
-            }
-        }
+    QDir folder(path);
+    // Files of a part that is no longer in the catalog must not be compared again.
+    if (!folder.removeRecursively() || !folder.mkpath(".")) {
+        throw std::runtime_error("Cannot make the folder " + path.toStdString());
     }
-    if (written.empty()) {
-        throw std::runtime_error("The catalog has no drawings");
+    for (const test::SampleDrawing& sample : test::sampleDrawings()) {
+        const QString file = folder.filePath(QString::fromStdString(sample.name));
+        writeFile(file + ".dwg", QByteArray::fromStdString(writeDwg(sample.drawing)));
+        writeFile(file + ".json", toJson(sample.drawing));
     }
 }
 
@@ -148,11 +100,7 @@ int main(int argc, char* argv[])
         if (argc != 2) {
             throw std::invalid_argument("Usage: dwg_samples FOLDER");
         }
-        SampleFolder folder(QFile::decodeName(argv[1]));
-        for (const test::SampleDrawing& sample : test::sampleDrawings()) {
-            folder.write(QString::fromStdString(sample.name), sample.drawing);
-        }
-        writeParts(folder);
+        writeSamples(QFile::decodeName(argv[1]));
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

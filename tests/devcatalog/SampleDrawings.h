@@ -1,27 +1,24 @@
 #pragma once
 
 #include "devcatalog/drawings/Drawing.h"
-#include "devcatalog/drawings/DrawingExtents.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace test
 {
 
-/// A drawing made by hand, with what is known of it.
 struct SampleDrawing {
     /// Fit for a file name.
     std::string name;
     devcatalog::Drawing drawing;
-    std::optional<devcatalog::Extents> extents;
 };
 
-/// Drawings that between them reach every branch of the DWG writer.
+/// Drawings made by hand that between them reach every branch of the DWG writer, and one of every family of
+/// parts in every view.
 std::vector<SampleDrawing> sampleDrawings();
 
-/// One of them.
-SampleDrawing sampleDrawing(const std::string& name);
+/// The one named "plate": a line of each kind, circles, and a title that the code page does not hold.
+devcatalog::Drawing plate();
 
 } // namespace test

@@ -16,13 +16,6 @@ QByteArray element(const QByteArray& name, const QString& text)
     return "<" + name + ">" + text.toHtmlEscaped().toUtf8() + "</" + name + ">";
 }
 
-QByteArray envelope(const QByteArray& content)
-{
-    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>"
-           "<soap:Envelope xmlns:soap=\"http://schemas.xmlsoap.org/soap/envelope/\"><soap:Body>" +
-           content + "</soap:Body></soap:Envelope>";
-}
-
 /// The fields of a hit have a place, not a name.
 QByteArray searchItem(const Hit& hit)
 {
@@ -54,7 +47,7 @@ ScriptedReply searchReply(const QVector<Hit>& hits, const QString& count)
     QByteArray content = element("ActualItemCount", count.isNull() ? QString::number(hits.size()) : count);
     for (const Hit& hit : hits)
         content += searchItem(hit);
-    return ScriptedReply::xml(envelope(content));
+    return ScriptedReply::xml(ScriptedReply::envelope(content));
 }
 
 ScriptedReply configurationsReply(const QStringList& names)
@@ -63,7 +56,7 @@ ScriptedReply configurationsReply(const QStringList& names)
     for (const QString& name : names)
         content +=
             "<IConfiguration>" + element("Name", name) + element("Type", "other") + "</IConfiguration>";
-    return ScriptedReply::xml(envelope(content));
+    return ScriptedReply::xml(ScriptedReply::envelope(content));
 }
 
 QByteArray pngPicture(const QSize& size)

@@ -17,14 +17,14 @@ QByteArray headOf(int code, const QByteArray& contentType, int length)
            "Content-Length: " + QByteArray::number(length) + lineEnd + lineEnd;
 }
 
-QByteArray envelope(const QByteArray& content)
+} // namespace
+
+QByteArray ScriptedReply::envelope(const QByteArray& content)
 {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>"
            "<soap:Envelope xmlns:soap=\"http://schemas.xmlsoap.org/soap/envelope/\"><soap:Body>" +
            content + "</soap:Body></soap:Envelope>";
 }
-
-} // namespace
 
 ScriptedReply ScriptedReply::xml(const QByteArray& body)
 {

@@ -18,6 +18,8 @@ public:
 
     /// As never().
     ScriptedReply() = default;
+    /// A SOAP 1.1 envelope around what it is given.
+    static QByteArray envelope(const QByteArray& content);
     /// Status 200 with an XML body.
     static ScriptedReply xml(const QByteArray& body);
     static ScriptedReply status(int code, const QByteArray& body = {},

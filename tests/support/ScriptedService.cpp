@@ -52,11 +52,6 @@ quint16 ScriptedService::port() const
     return m_server->serverPort();
 }
 
-void ScriptedService::stopListening()
-{
-    m_server->close();
-}
-
 void ScriptedService::setReply(const QString& key, const ScriptedReply& reply)
 {
     m_standing.insert(key, reply);
@@ -124,7 +119,6 @@ void ScriptedService::answer(ScriptedConnection* connection, const RecordedReque
         connection->write(reply.bytes());
         connection->end(reply.ending());
     }
-    emit requestArrived(request);
 }
 
 ScriptedReply ScriptedService::replyFor(const RecordedRequest& request)

@@ -37,8 +37,6 @@ public:
     ~ScriptedService() override;
 
     quint16 port() const;
-    /// Refuses connections from here on; those that stand are kept.
-    void stopListening();
 
     /// The answer whenever nothing is queued.
     void setReply(const QString& key, const ScriptedReply& reply);
@@ -60,9 +58,6 @@ public:
     int connectionCount() const { return m_connectionCount; }
     /// Bytes that arrived inside TLS, parts of requests included.
     qint64 byteCount() const { return m_byteCount; }
-
-signals:
-    void requestArrived(const test::RecordedRequest& request);
 
 private:
     class TlsServer;

@@ -6,21 +6,19 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <memory>
 
 namespace test
 {
 
-/// What a TLS server shows and signs with. Lives in memory only.
+/// What a TLS server shows and signs with.
 struct ServerIdentity {
     QSslCertificate certificate;
     QSslKey key;
 };
 
-/**
- * A certificate authority and server certificates for one host name, made afresh (elliptic keys, some
- * milliseconds each). Nothing trusts the authority until trust() is called.
- */
+/// An authority of its own and what it issues for one host name. Nothing trusts it until trust() is called.
 class TestCertificates
 {
 public:
@@ -33,22 +31,18 @@ public:
 
     ServerIdentity good() const;      ///< signed by the authority, valid, right name
     ServerIdentity untrusted() const; ///< signed by another authority of the same name
-    ServerIdentity expired() const;   ///< ended yesterday
+    ServerIdentity expired() const;   ///< ended a year ago
     ServerIdentity wrongName() const; ///< for "elsewhere.test"
 
     /// Adds the authority to QSslConfiguration::defaultConfiguration().
     void trust();
 
-    QSslCertificate authority() const;
-    /// The authority as a PEM file, for programs that take one; gone with this object.
-    QString authorityFile() const;
-
 private:
-    class Authority;
+    std::filesystem::path folder(const char* name) const;
 
     QString m_hostName;
-    std::unique_ptr<Authority> m_authority;
     QTemporaryDir m_folder;
+    std::filesystem::path m_authorityFile;
     std::unique_ptr<QSslConfiguration> m_before; ///< set while trusted
 };
 
