@@ -3,7 +3,6 @@
 #include "devcatalog/drawings/Drawing.h"
 #include "devcatalog/drawings/DrawingExtents.h"
 #include "devcatalog/drawings/DwgHandle.h"
-#include "devcatalog/drawings/DwgLayerStyle.h"
 
 #include <array>
 #include <cstdint>
@@ -55,13 +54,8 @@ struct DwgDocument {
     DwgHandle firstUnusedHandle() const { return firstEntity + static_cast<DwgHandle>(entities.size()); }
 };
 
-/// Checks a drawing and its styles and gives handles to layers and entities.
+/// Checks a drawing and gives handles to layers and entities.
 /// @throws std::invalid_argument as writeDwg() does.
-DwgDocument makeDwgDocument(const Drawing& drawing, const DwgLayerStyles& styles);
-
-/// The format's number of a line width.
-/// @param hundredths width in hundredths of a millimetre.
-/// @throws std::invalid_argument when the format does not know that width.
-int lineweightIndex(int hundredths);
+DwgDocument makeDwgDocument(const Drawing& drawing);
 
 } // namespace devcatalog

@@ -26,9 +26,9 @@ std::string joined(const DwgRecords& records)
 
 } // namespace
 
-std::string writeDwg(const Drawing& drawing, const DwgLayerStyles& styles)
+std::string writeDwg(const Drawing& drawing)
 {
-    const DwgDocument document = makeDwgDocument(drawing, styles);
+    const DwgDocument document = makeDwgDocument(drawing);
     DwgFileParts parts;
     addTables(parts.records, document);
     addDictionaries(parts.records);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "devcatalog/drawings/Drawing.h"
-#include "devcatalog/drawings/DwgLayerStyle.h"
 
 #include <string>
 
@@ -18,11 +17,9 @@ namespace devcatalog
 ///
 /// @param drawing within 1e9 cm of its origin; a polyline has 2 to 1000 vertices, the whole at most a million
 /// points. A drawing without entities gives a valid file.
-/// @param styles the layers; their names differ from one another and from "0", whatever the letter case.
 /// @return the file's bytes.
 /// @throws std::invalid_argument naming what is wrong: a coordinate, radius or bulge that is not finite or
-/// too large, a radius that is not positive, too few or too many points, a layer name, colour or line width
-/// that is not allowed.
-std::string writeDwg(const Drawing& drawing, const DwgLayerStyles& styles = standardLayerStyles());
+/// too large, a radius that is not positive, too few or too many points.
+std::string writeDwg(const Drawing& drawing);
 
 } // namespace devcatalog
