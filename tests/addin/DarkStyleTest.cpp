@@ -1,7 +1,5 @@
 #include "common/DarkTheme.h"
 #include "common/DarkTitleBar.h"
-#include "devhost/model/HostApplication.h"
-#include "tests/devhost/ScriptedHostView.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QFile>
@@ -41,97 +39,42 @@ class DarkStyleTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
+    void cleanup() { m_warnings.reset(); }
 
-    void theThemeIsReadOnce_data();
-    void theThemeIsReadOnce();
-    void withoutAnAnswerItStaysUnread();
-    void titleBar_data();
-    void titleBar();
+    void onlyZeroIsLight();
+    void theOlderNumberIsTriedWhereTheNewerIsRefused();
     void withoutAWindowManagerNoWindowIsMade();
 
 private:
     std::unique_ptr<test::FatalWarnings> m_warnings;
-    std::unique_ptr<test::ScriptedHostView> m_view;
-    std::shared_ptr<devhost::HostApplication> m_host;
 };
 
-void DarkStyleTest::init()
+void DarkStyleTest::onlyZeroIsLight()
 {
-    m_warnings = std::make_unique<test::FatalWarnings>();
-    m_view = std::make_unique<test::ScriptedHostView>();
-    m_host = std::make_shared<devhost::HostApplication>(*m_view);
-    g_darkMode = DarkModeUnread;
-    g_windowAttributeSetter = platformWindowAttributeSetter();
-    s_calls.clear();
+    for (const quint32 flag : {0U, 1U, 2U, DarkModeUnread}) {
+        g_darkMode = flag;
+        QCOMPARE(isDarkTheme(nullptr), flag != 0);
+        QCOMPARE(g_darkMode, flag);
+    }
 }
 
-void DarkStyleTest::cleanup()
+void DarkStyleTest::theOlderNumberIsTriedWhereTheNewerIsRefused()
 {
-    m_host.reset();
-    m_view.reset();
-    m_warnings.reset();
-}
+    for (const auto& setter : {setAttribute<0>, setAttribute<-2147024809L>, setAttribute<1>}) {
+        s_calls.clear();
+        g_windowAttributeSetter = setter;
+        QWidget widget;
+        applyDarkStyle(&widget);
 
-void DarkStyleTest::theThemeIsReadOnce_data()
-{
-    QTest::addColumn<quint32>("flag");
-    QTest::addColumn<bool>("hostIsDark");
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<int>("reads");
-    QTest::newRow("light host") << DarkModeUnread << false << false << 1;
-    QTest::newRow("dark host") << DarkModeUnread << true << true << 1;
-    QTest::newRow("read before as light") << 0U << true << false << 0;
-    QTest::newRow("read before as another value") << 2U << false << true << 0;
-}
-
-void DarkStyleTest::theThemeIsReadOnce()
-{
-    QFETCH(quint32, flag);
-    QFETCH(bool, hostIsDark);
-    g_darkMode = flag;
-    m_host->settings().darkTheme = hostIsDark;
-    QTEST(isDarkTheme(m_host.get()), "dark");
-    m_host->settings().darkTheme = !hostIsDark;
-    QTEST(isDarkTheme(m_host.get()), "dark");
-    QTEST(m_host->journal().lines().count("ApplicationOptions.GetApplicationOptionInt16(48)"), "reads");
-}
-
-void DarkStyleTest::withoutAnAnswerItStaysUnread()
-{
-    QVERIFY(isDarkTheme(nullptr));
-    m_host->answers().fail("GetApplicationOptions", PVRESULT_True);
-    QVERIFY(isDarkTheme(m_host.get()));
-    QCOMPARE(g_darkMode, DarkModeUnread);
-    m_host->answers().clear();
-    QVERIFY(!isDarkTheme(m_host.get()));
-}
-
-Q_DECLARE_METATYPE(WindowAttributeSetter)
-
-void DarkStyleTest::titleBar_data()
-{
-    QTest::addColumn<WindowAttributeSetter>("setter");
-    QTest::addColumn<int>("attributes");
-    QTest::newRow("accepted") << WindowAttributeSetter(setAttribute<0>) << 1;
-    QTest::newRow("refused") << WindowAttributeSetter(setAttribute<-2147024809L>) << 2;
-    QTest::newRow("refused by a positive result") << WindowAttributeSetter(setAttribute<1>) << 2;
-}
-
-void DarkStyleTest::titleBar()
-{
-    QFETCH(WindowAttributeSetter, setter);
-    QFETCH(int, attributes);
-    g_windowAttributeSetter = setter;
-    QWidget widget;
-    applyDarkStyle(&widget);
-
-    const std::vector<AttributeCall> both{{widget.winId(), 20, 1}, {widget.winId(), 19, 1}};
-    QVERIFY(s_calls == std::vector<AttributeCall>(both.begin(), both.begin() + attributes));
-    QFile sheet(":/3DPH/Resource/PV3DPartHarborDarkMode.qss");
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    QCOMPARE(widget.styleSheet(), QString::fromUtf8(sheet.readAll()));
+        std::vector<AttributeCall> calls{{widget.winId(), 20, 1}};
+        if (setter != setAttribute<0>)
+            calls.push_back({widget.winId(), 19, 1});
+        QVERIFY(s_calls == calls);
+        QFile sheet(":/3DPH/Resource/PV3DPartHarborDarkMode.qss");
+        QVERIFY(sheet.open(QIODevice::ReadOnly));
+        QCOMPARE(widget.styleSheet(), QString::fromUtf8(sheet.readAll()));
+    }
 }
 
 void DarkStyleTest::withoutAWindowManagerNoWindowIsMade()

@@ -54,17 +54,12 @@ void DockedPaneTest::theTabsFillThePane()
     QVERIFY(layout != nullptr);
     QCOMPARE(layout->count(), 1);
     QVERIFY(layout->itemAt(0)->widget() == tabs());
-    QCOMPARE(layout->stretch(0), 0);
-    QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
-    QVERIFY(tabs()->parentWidget() == pane);
 }
 
 void DockedPaneTest::theTabs()
 {
     QCOMPARE(tabs()->count(), 2);
     QCOMPARE(tabs()->currentIndex(), 0);
-    QCOMPARE(tabs()->tabText(0), QString("Log In"));
-    QCOMPARE(tabs()->tabText(1), QString("2D"));
     QCOMPARE(tabs()->tabToolTip(0), QString());
     QVERIFY(tabs()->widget(0)->inherits("LogInPage"));
     QVERIFY(tabs()->widget(1)->inherits("ParentWidget"));
@@ -81,17 +76,11 @@ void DockedPaneTest::theHelpButtonStandsInTheCorner()
 {
     const auto* corner = qobject_cast<QFrame*>(tabs()->cornerWidget(Qt::TopRightCorner));
     QVERIFY(corner != nullptr && corner->isVisible());
-    QCOMPARE(corner->frameShape(), QFrame::StyledPanel);
-    QCOMPARE(corner->frameShadow(), QFrame::Plain);
-
     const auto* layout = qobject_cast<QHBoxLayout*>(corner->layout());
     QVERIFY(layout != nullptr);
     QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 0);
-    QCOMPARE(layout->count(), 1);
     QCOMPARE(layout->stretch(0), 129);
     QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
-
     const auto* help = qobject_cast<QPushButton*>(layout->itemAt(0)->widget());
     QVERIFY(help != nullptr && help->inherits("HelpButton"));
     QCOMPARE(help->toolTip(), QString("Help"));
@@ -104,6 +93,8 @@ void DockedPaneTest::theHelpButtonStandsInTheCorner()
 
 void DockedPaneTest::onlyTitlesAreTranslated()
 {
+    QCOMPARE(tabs()->tabText(0), QString("Log In"));
+    QCOMPARE(tabs()->tabText(1), QString("2D"));
     m_addIn->disconnect();
     m_addIn->host().settings().language = 7;
     m_addIn->connect();

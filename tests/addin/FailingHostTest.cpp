@@ -106,20 +106,21 @@ private:
     void prepareCatalog();
     /// Plays the road. @return what of the effects was seen.
     QStringList effectsOfARoad();
-    void lookAtRegistrations(QStringList* seen) const;
-    void runCommand(QStringList* seen);
-    void askForHelp(QStringList* seen);
-    void logIn(QStringList* seen);
-    void placeABlock(QStringList* seen);
-    void lookAtTheEnd(QStringList* seen) const;
+    void lookAtRegistrations();
+    void askForHelp();
+    void logIn();
+    void placeABlock();
     bool toggles();
+    void note(bool isSeen, const QString& effect);
 
+    QStringList m_seen;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<test::LoadedAddIn> m_addIn;
 };
 
 void FailingHostTest::init()
 {
+    m_seen.clear();
     m_folder = std::make_unique<QTemporaryDir>();
     QDir::setCurrent(m_folder->path());
     m_addIn = std::make_unique<test::LoadedAddIn>();
@@ -155,21 +156,20 @@ void FailingHostTest::prepareCatalog()
 
 QStringList FailingHostTest::effectsOfARoad()
 {
-    QStringList seen;
     m_addIn->connect();
-    runCommand(&seen);
-    lookAtRegistrations(&seen);
+    note(toggles() && toggles(), command);
+    lookAtRegistrations();
     if (m_addIn->view().paneWidget() != nullptr)
         m_addIn->view().paneWidget()->show(); // by the user
     if (auto* tabs = m_addIn->shown<QTabWidget>("QTabWidget")) {
-        askForHelp(&seen);
-        logIn(&seen);
+        askForHelp();
+        logIn();
         tabs->setCurrentIndex(1);
-        placeABlock(&seen);
+        placeABlock();
     }
     m_addIn->disconnect();
-    lookAtTheEnd(&seen);
-    return seen;
+    note(m_addIn->registrations().isEmpty() && m_addIn->host().panes().empty(), cleanEnd);
+    return m_seen;
 }
 
 bool FailingHostTest::toggles()
@@ -179,41 +179,35 @@ bool FailingHostTest::toggles()
     return m_addIn->host().runCommand("3DPH") && pane && pane->isVisible() != before;
 }
 
-void FailingHostTest::runCommand(QStringList* seen)
+void FailingHostTest::note(bool isSeen, const QString& effect)
 {
-    if (toggles() && toggles())
-        seen->append(command);
+    if (isSeen)
+        m_seen.append(effect);
 }
 
-void FailingHostTest::lookAtRegistrations(QStringList* seen) const
+void FailingHostTest::lookAtRegistrations()
 {
     const auto userCommand = m_addIn->host().findUserCommand("UserCommand_3DPH");
-    if (userCommand && userCommand->properties().largeIcon == ":/3DPH/Resource/3DPH_32x-32.svg")
-        seen->append(lightIcon);
+    note(userCommand && userCommand->properties().largeIcon == ":/3DPH/Resource/3DPH_32x-32.svg", lightIcon);
     const QStringList entries = m_addIn->registrations().filter("ID_Import/3: 3DPH");
     const QStringList buttons = m_addIn->registrations().filter("ID_ImportTab/ID_ImportPanel: 3DPH");
-    if (entries.size() == 1)
-        seen->append(menuEntry);
-    if (buttons.size() == 1)
-        seen->append(button);
-    if ((entries + buttons).filter("UserCommand_3DPH").size() == 2)
-        seen->append(binding);
+    note(entries.size() == 1, menuEntry);
+    note(buttons.size() == 1, button);
+    note((entries + buttons).filter("UserCommand_3DPH").size() == 2, binding);
 }
 
-void FailingHostTest::askForHelp(QStringList* seen)
+void FailingHostTest::askForHelp()
 {
     for (const bool web : {false, true}) {
         m_addIn->host().settings().webHelp = web;
         QTest::mouseClick(m_addIn->shown("HelpButton"), Qt::LeftButton);
     }
     const QStringList& opened = m_addIn->view().openedHelp();
-    if (opened.contains("Help/PlotvaneKT.chm#15050"))
-        seen->append(helpFile);
-    if (!opened.filter("?P=16&L=").isEmpty())
-        seen->append(webHelp);
+    note(opened.contains("Help/PlotvaneKT.chm#15050"), helpFile);
+    note(!opened.filter("?P=16&L=").isEmpty(), webHelp);
 }
 
-void FailingHostTest::logIn(QStringList* seen)
+void FailingHostTest::logIn()
 {
     // Both pages have their key: only then can the panel search.
     QVERIFY(test::waitUntil([this] { return m_addIn->warnings().debugLines().size() == 4; }));
@@ -221,11 +215,10 @@ void FailingHostTest::logIn(QStringList* seen)
     QTest::keyClicks(m_addIn->shown("QLineEdit", "Pass_lineEdit_2"), "secret");
     QTest::mouseClick(m_addIn->shown("QPushButton", "LogIn_pushButton"), Qt::LeftButton);
     QVERIFY(test::waitUntil([this] { return m_addIn->answerer().boxes().size() == 1; }));
-    if (m_addIn->answerer().boxes().last().text == "Login is successful.")
-        seen->append(login);
+    note(m_addIn->answerer().boxes().last().text == "Login is successful.", login);
 }
 
-void FailingHostTest::placeABlock(QStringList* seen)
+void FailingHostTest::placeABlock()
 {
     QTest::keyClicks(m_addIn->shown("QLineEdit", "SearchLine"), "bolt");
     QTest::keyClick(m_addIn->shown("QLineEdit", "SearchLine"), Qt::Key_Return);
@@ -237,16 +230,8 @@ void FailingHostTest::placeABlock(QStringList* seen)
     // The last call of the road that the add-in makes in every host. The prompt follows in the same turn.
     QVERIFY(
         test::waitUntil([this] { return m_addIn->host().journal().names().contains("GetCommandMessage"); }));
-    if (!m_addIn->view().prompts().empty())
-        seen->append(prompt);
-    if (m_addIn->host().activeDocument()->blocks().objects().size() == 1)
-        seen->append(block);
-}
-
-void FailingHostTest::lookAtTheEnd(QStringList* seen) const
-{
-    if (m_addIn->registrations().isEmpty() && m_addIn->host().panes().empty())
-        seen->append(cleanEnd);
+    note(!m_addIn->view().prompts().empty(), prompt);
+    note(m_addIn->host().activeDocument()->blocks().objects().size() == 1, block);
 }
 
 void FailingHostTest::everyCallIsInTheTable()
@@ -286,20 +271,17 @@ void FailingHostTest::oneCallFails()
     QFETCH(Outcome, outcome);
     QFETCH(QStringList, lost);
     m_addIn->host().answers().fail(call, result, outcome);
-    QStringList expected;
-    for (const QString& effect : all) {
-        if (!lost.contains(effect))
-            expected.append(effect);
-    }
+    QStringList expected = all;
+    for (const QString& effect : lost)
+        expected.removeAll(effect);
     QCOMPARE(effectsOfARoad(), expected);
 }
 
 void FailingHostTest::theHandleNamesNoWidget_data()
 {
     QTest::addColumn<quintptr>("handle");
-    QTest::newRow("null") << quintptr{0};
-    QTest::newRow("unknown") << quintptr{0x7ffffff0};
-    QTest::newRow("sign bit set") << quintptr{0x80000001};
+    for (const quintptr handle : {quintptr{0}, quintptr{0x7ffffff0}, quintptr{0x80000001}})
+        QTest::addRow("%lx", static_cast<unsigned long>(handle)) << handle;
 }
 
 void FailingHostTest::theHandleNamesNoWidget()

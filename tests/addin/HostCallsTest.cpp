@@ -69,16 +69,6 @@ const QStringList disconnectCalls{
 const QStringList hide{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(false)"};
 const QStringList show{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(true)"};
 
-/// The items of the ribbon row meant for imports, add-in's button or not.
-QStringList rowItems(const HostApplication& host)
-{
-    QStringList items;
-    const auto tab = host.workspaces().objects().front()->tabs().objects().at(1);
-    for (const auto& button : tab->panels().objects().at(1)->row()->buttons().objects())
-        items.append(button->id());
-    return items;
-}
-
 } // namespace
 
 /// What the add-in calls in its host, whole and in order, and what stands in the host afterwards.
@@ -92,7 +82,6 @@ private slots:
 
     void aConnectionFromStartToEnd();
     void aSecondConnectIsRefused();
-    void withoutAHost();
     void help_data();
     void help();
     void registration_data();
@@ -159,14 +148,6 @@ void HostCallsTest::aSecondConnectIsRefused()
     QCOMPARE(m_addIn->takeCalls(), QStringList());
 }
 
-void HostCallsTest::withoutAHost()
-{
-    QVERIFY(m_addIn->library().connect(nullptr));
-    QVERIFY(!m_addIn->library().connect(&m_addIn->host()));
-    QVERIFY(m_addIn->disconnect());
-    QCOMPARE(m_addIn->takeCalls(), QStringList());
-}
-
 void HostCallsTest::help_data()
 {
     QTest::addColumn<int>("language");
@@ -175,30 +156,16 @@ void HostCallsTest::help_data()
     QTest::addColumn<QString>("opened");
 
     const QString link = "https://help.example/plotvane?x=1";
-    struct Language {
-        int hostValue;
-        const char* name;
-    };
-    for (const Language& language : {Language{2, "English"},
-                                     {1, "German"},
-                                     {9, "Chinese-simplified"},
-                                     {8, "Chinese"},
-                                     {7, "French"},
-                                     {10, "Italian"},
-                                     {6, "Japanese"},
-                                     {13, "Korean"},
-                                     {5, "Polish"},
-                                     {19, "Portuguese-brazilian"},
-                                     {18, "Russian"},
-                                     {11, "Spanish"},
-                                     {3, "Turkish"},
-                                     {20, "Czech"},
-                                     {14, ""},
-                                     {0, ""},
-                                     {-1, ""}})
-        QTest::addRow("web, language %d", language.hostValue)
-            << language.hostValue << link << QString()
-            << link + "?P=16&L=" + language.name + "&V=2019&C=PlotvaneKT&I=0";
+    // By the host's number of the language.
+    const QStringList languages{"",        "German",   "English", "Turkish", "",
+                                "Polish",  "Japanese", "French",  "Chinese", "Chinese-simplified",
+                                "Italian", "Spanish",  "",        "Korean",  "",
+                                "",        "",         "",        "Russian", "Portuguese-brazilian",
+                                "Czech",   ""};
+    for (int language = 0; language < languages.size(); ++language)
+        QTest::addRow("web, language %d", language)
+            << language << link << QString()
+            << link + "?P=16&L=" + languages[language] + "&V=2019&C=PlotvaneKT&I=0";
     QTest::addRow("web, base with blanks and umlauts")
         << 2 << QString::fromUtf8("C:\\a b\\ü") << QString()
         << QString::fromUtf8("C:\\a b\\ü?P=16&L=English&V=2019&C=PlotvaneKT&I=0");
@@ -247,7 +214,6 @@ void HostCallsTest::registration_data()
     const QStringList commands{"command 3DPH", "user command UserCommand_3DPH"};
     const QStringList entry{"ID_Import/3: 3DPH UserCommand_3DPH"};
     const QStringList button{"ID_ImportTab/ID_ImportPanel: 3DPH UserCommand_3DPH"};
-    const auto dropMenus = [](HostApplication& host) { host.menus() = {}; };
     const auto tab = [](HostApplication& host) {
         return host.workspaces().objects().front()->tabs().objects().at(1);
     };
@@ -255,17 +221,13 @@ void HostCallsTest::registration_data()
         QTest::newRow(name) << arrange << registered;
     };
 
-    row(
-        "usual", [](HostApplication&) {}, commands + entry + button);
     row("name taken", [](HostApplication& host) { host.addCommand("3DPH"); }, {});
-    row("another creation error",
-        [](HostApplication& host) { host.refuseCommands(pvCreateCommandError_e(7)); }, {});
     row("negative creation error",
         [](HostApplication& host) { host.refuseCommands(pvCreateCommandError_e(-1)); }, {});
     row(
         "no import menu",
-        [=](HostApplication& host) {
-            dropMenus(host);
+        [](HostApplication& host) {
+            host.menus() = {};
             host.addMenu("ID_File", "File");
             host.addMenu("id_import", "Other letter case");
         },
@@ -275,20 +237,19 @@ void HostCallsTest::registration_data()
         commands + entry + button);
     row(
         "no import menu, null entry last",
-        [=](HostApplication& host) {
-            dropMenus(host);
+        [](HostApplication& host) {
+            host.menus() = {};
             host.addMenu("ID_File", "File");
             host.menus().addNull();
         },
         commands + QStringList{"ID_File/0: 3DPH UserCommand_3DPH"} + button);
     row(
         "null menus alone",
-        [=](HostApplication& host) {
-            dropMenus(host);
+        [](HostApplication& host) {
+            host.menus() = {};
             host.menus().addNull();
         },
         commands + button);
-    row("no menus", dropMenus, commands + button);
     row(
         "gaps and strangers in every list",
         [=](HostApplication& host) {
@@ -311,9 +272,6 @@ void HostCallsTest::registration_data()
         },
         commands + entry + button);
     row(
-        "no workspace of that name",
-        [](HostApplication& host) { host.answers().fail("GetWorkspace", PVRESULT_True); }, commands + entry);
-    row(
         "several tabs, panels and rows that match",
         [=](HostApplication& host) {
             tab(host)->addPanel("ID_ImportPanel", "Second", "ID_ImportPANELROW");
@@ -330,7 +288,6 @@ void HostCallsTest::registration()
 {
     QFETCH(Arrangement, arrange);
     arrange(m_addIn->host());
-    const QStringList itemsBefore = rowItems(m_addIn->host());
     QVERIFY(m_addIn->connect());
     QTEST(m_addIn->registrations(), "registered");
     QVERIFY(m_addIn->view().paneWidget()->isVisible());
@@ -339,7 +296,6 @@ void HostCallsTest::registration()
     m_addIn->host().answers().fail("RemoveUserInterface", PVRESULT_False);
     QVERIFY(m_addIn->disconnect());
     QCOMPARE(m_addIn->registrations().filter("Panel"), QStringList());
-    QCOMPARE(rowItems(m_addIn->host()), itemsBefore);
 }
 
 QTEST_MAIN(HostCallsTest)

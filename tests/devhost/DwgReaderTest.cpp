@@ -52,7 +52,6 @@ private slots:
 
     void readsLinesWithLineTypesAndColours();
     void emptyDrawingDrawsNothing();
-    void unreadableFilesAreNamed_data();
     void unreadableFilesAreNamed();
     void damagedFilesAreSurvived();
 
@@ -107,28 +106,21 @@ void DwgReaderTest::emptyDrawingDrawsNothing()
     QCOMPARE(content.problem, QString("part0.dwg draws nothing."));
 }
 
-void DwgReaderTest::unreadableFilesAreNamed_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("empty") << QByteArray() << "Cannot read part0.dwg: it is empty.";
-    QTest::newRow("noise") << noise(5000) << "Cannot read part0.dwg: it is not a DWG file.";
-    QTest::newRow("noise behind the signature")
-        << "AC1015" + noise(5000) << "Cannot read part0.dwg: it is damaged or cut short.";
-    QTest::newRow("signature alone") << QByteArray("AC1015")
-                                     << "Cannot read part0.dwg: it is damaged or cut short.";
-    QTest::newRow("half") << goodDrawing().left(2500) << "Cannot read part0.dwg: it is damaged or cut short.";
-    QTest::newRow("later release") << "AC1032" + goodDrawing().mid(6)
-                                   << "Cannot read part0.dwg: it is of release AC1032, not AC1015.";
-}
-
 void DwgReaderTest::unreadableFilesAreNamed()
 {
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const QString, problem);
-    const DwgContent content = read(bytes);
-    QVERIFY(!content.geometry);
-    QCOMPARE(content.problem, problem);
+    const QString damaged = "it is damaged or cut short.";
+    const QVector<QPair<QByteArray, QString>> files{
+        {QByteArray(), "it is empty."},
+        {noise(5000), "it is not a DWG file."},
+        {"AC1015" + noise(5000), damaged},
+        {goodDrawing().left(2500), damaged},
+        {"AC1032" + goodDrawing().mid(6), "it is of release AC1032, not AC1015."},
+    };
+    for (const auto& [bytes, reason] : files) {
+        const DwgContent content = read(bytes);
+        QVERIFY(!content.geometry);
+        QCOMPARE(content.problem, "Cannot read part0.dwg: " + reason);
+    }
     QVERIFY(!devhost::readDwg(m_folder.filePath("missing.dwg")).geometry);
 }
 

@@ -39,8 +39,6 @@ void ScriptedHostView::acceptPromptsAt(double x, double y)
 
 std::unique_ptr<devhost::PaneView> ScriptedHostView::createPane(const QString& title)
 {
-    if (m_refusesPanes)
-        return nullptr;
     auto widget = m_keptPane ? m_keptPane : std::make_shared<QWidget>();
     widget->setWindowTitle(title);
     widget->setAttribute(Qt::WA_NativeWindow);
@@ -61,9 +59,6 @@ devhost::BlockPromptAnswer ScriptedHostView::promptForBlock(const devhost::Block
 
 std::optional<devhost::BlockGeometry> ScriptedHostView::readBlock(const QString& file)
 {
-    const auto set = m_blocks.constFind(file);
-    if (set != m_blocks.constEnd())
-        return *set;
     return QFile::exists(file) ? std::optional(devhost::BlockGeometry()) : std::nullopt;
 }
 

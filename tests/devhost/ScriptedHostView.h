@@ -2,7 +2,6 @@
 
 #include "devhost/model/HostView.h"
 
-#include <QHash>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
@@ -18,8 +17,6 @@ namespace test
 class ScriptedHostView final : public devhost::HostView
 {
 public:
-    /// Refuses panes from now on.
-    void refusePanes() { m_refusesPanes = true; }
     /// Has panes report that handle instead of their widget's.
     void reportHandle(quintptr handle) { m_reportedHandle = handle; }
     /// Keeps the next pane's widget when the pane is destroyed, and hands it out again.
@@ -32,11 +29,6 @@ public:
     }
     /// Answers every prompt from now on by placing the block at that point, as preset otherwise.
     void acceptPromptsAt(double x, double y);
-    /// What reading that file gives, instead of an empty block for a file that exists and nothing for others.
-    void setBlock(const QString& file, const std::optional<devhost::BlockGeometry>& geometry)
-    {
-        m_blocks.insert(file, geometry);
-    }
 
     /// @return the widget of the newest pane; null when there is none, or it is gone.
     QWidget* paneWidget() const { return m_paneWidget; }
@@ -45,28 +37,25 @@ public:
     const std::vector<QByteArray>& promptedContents() const { return m_promptedContents; }
     /// @return the help opened so far: an address, or "file#topic".
     const QStringList& openedHelp() const { return m_openedHelp; }
-    int cancelledPrompts() const { return m_cancelledPrompts; }
 
     // devhost::HostView
     std::unique_ptr<devhost::PaneView> createPane(const QString& title) override;
     devhost::BlockPromptAnswer promptForBlock(const devhost::BlockPrompt& prompt) override;
-    void cancelPrompt() override { ++m_cancelledPrompts; }
+    void cancelPrompt() override {}
+    /// @return an empty block for a file that exists.
     std::optional<devhost::BlockGeometry> readBlock(const QString& file) override;
     bool openWebHelp(const QString& address) override;
     bool openHelpFile(const QString& file, long topic) override;
 
 private:
-    bool m_refusesPanes = false;
     std::optional<quintptr> m_reportedHandle;
     bool m_keepsPane = false;
     std::shared_ptr<QWidget> m_keptPane;
     std::function<devhost::BlockPromptAnswer(const devhost::BlockPrompt&)> m_promptScript;
-    QHash<QString, std::optional<devhost::BlockGeometry>> m_blocks;
     QPointer<QWidget> m_paneWidget;
     std::vector<devhost::BlockPrompt> m_prompts;
     std::vector<QByteArray> m_promptedContents;
     QStringList m_openedHelp;
-    int m_cancelledPrompts = 0;
 };
 
 } // namespace test

@@ -25,8 +25,7 @@ namespace test
 
 /**
  * The built library in a host, before the development catalog over HTTPS, in a current directory of its own.
- * The steps of a user wait for their outcome. Once a reply is held, they do nothing and wait no more: the
- * road stops where it is.
+ * The steps of a user wait for their outcome, or until a reply is held.
  *
  * Made in init() and destroyed in cleanup() (see FatalWarnings).
  */
@@ -64,7 +63,7 @@ public:
     /// Waits until the session has got so many replies with a text in them, or so many without any text.
     void waitForReplies(const QString& content, int count);
     /// Waits for the box with the outcome.
-    void logIn(const QString& password = "demo");
+    void logIn();
     void searchFor(const QString& term);
     void turnToPage(const QString& page);
     /// Waits for other results than those, with their pictures.

@@ -1,16 +1,12 @@
 #include "devhost/tour/RoadPlayer.h"
 #include "devhost/tour/Screenshots.h"
 #include "devhost/tour/UserInput.h"
-#include "devhost/window/CommandLine.h"
 #include "devhost/window/MainWindow.h"
 #include "tests/support/FatalWarnings.h"
 
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QTemporaryDir>
-#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
@@ -56,13 +52,8 @@ private slots:
 
     void outOfReach_data();
     void outOfReach();
-    void scrolledAwayIsScrolledTo();
-    void keysGoWhereTheFocusIs();
-
-    void stepsGoOnInsideOfBoxes();
     void roadsEndAtTheFirstFailure_data();
     void roadsEndAtTheFirstFailure();
-    void boxOfRetryHasTheStepDoneAgain();
 
 private:
     bool play(const Road& road);
@@ -131,61 +122,6 @@ void TourTest::outOfReach()
     QCOMPARE(clicks.size(), 1);
 }
 
-void TourTest::scrolledAwayIsScrolledTo()
-{
-    QScrollArea area;
-    area.resize(200, 200);
-    auto* content = new QWidget;
-    content->resize(150, 2000);
-    auto* button = new QPushButton("Button", content);
-    area.setWidget(content);
-    area.show();
-    QSignalSpy clicks(button, &QPushButton::clicked);
-    for (const int y : {1900, 20, 1000}) {
-        button->move(0, y);
-        QCOMPARE(devhost::userInput::click(button), QString());
-    }
-    QCOMPARE(clicks.size(), 3);
-}
-
-void TourTest::keysGoWhereTheFocusIs()
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* first = new QLineEdit("old");
-    auto* second = new QLineEdit("other");
-    layout->addWidget(first);
-    layout->addWidget(second);
-    window.show();
-    const QString text = QString::fromUtf8("Größe M8 <x> 六角");
-    QCOMPARE(devhost::userInput::typeInto(first, text), QString());
-    QCOMPARE(first->text(), text);
-    QCOMPARE(second->text(), QString("other"));
-    first->setFocusPolicy(Qt::NoFocus);
-    second->setFocus();
-    QVERIFY(!devhost::userInput::typeInto(first, "lost").isEmpty());
-    QCOMPARE(second->text(), QString("other"));
-}
-
-void TourTest::stepsGoOnInsideOfBoxes()
-{
-    bool hasReturned = false;
-    TourStep opening = step(
-        "open a box",
-        [&] {
-            openBox("expected");
-            hasReturned = true;
-            return QString();
-        },
-        [&]() -> Sight {
-            return {hasReturned, "the box"};
-        });
-    opening.box = "expected";
-    QVERIFY(play({opening, step("be done", {}, [] { return Sight{true, "all"}; })}));
-    QCOMPARE(QDir(m_folder->path()).entryList({"*.png"}),
-             (QStringList{"01-open-a-box-box.png", "01-open-a-box.png", "02-be-done.png"}));
-}
-
 void TourTest::roadsEndAtTheFirstFailure_data()
 {
     QTest::addColumn<TourStep>("failing");
@@ -215,17 +151,6 @@ void TourTest::roadsEndAtTheFirstFailure()
     QVERIFY(!wentOn);
     QVERIFY(QApplication::activeModalWidget() == nullptr);
     QVERIFY(!QDir(m_folder->path()).entryList({"01-*-failed.png"}).isEmpty());
-}
-
-void TourTest::boxOfRetryHasTheStepDoneAgain()
-{
-    int tries = 0;
-    TourStep trying = step("try", [&] { return openBox(++tries < 3 ? "not yet" : "now"); }, {});
-    trying.box = "now";
-    trying.retryBox = "not yet";
-    trying.seconds = 20;
-    QVERIFY(play({trying}));
-    QCOMPARE(tries, 3);
 }
 
 QTEST_MAIN(TourTest)
