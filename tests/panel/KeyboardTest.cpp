@@ -159,13 +159,14 @@ void KeyboardTest::iconsHaveNames()
             // Parts of the toolkit's own controls have no need of one.
             const bool ours = !button->objectName().startsWith("qt_") &&
                               QString(button->metaObject()->className()) != "QTableCornerButton";
-            if (ours && button->text().isEmpty() && button->accessibleName().isEmpty())
+            if (ours && button->text().isEmpty() &&
+                (button->accessibleName().isEmpty() || button->icon().isNull()))
                 controls.append(nameOf(button));
         }
         return controls;
     };
     m_panel->openFirstPart();
-    QCOMPARE(unnamed(), QStringList());
+    QTRY_COMPARE(unnamed(), QStringList()); // pictures come late
 }
 
 QTEST_MAIN(KeyboardTest)

@@ -1,11 +1,8 @@
-#include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PartHarbor_2D.h"
 #include "service/SessionValues.h"
 #include "tests/panel/PanelFixture.h"
-#include "tests/support/CannedReplies.h"
 
-#include <QAbstractButton>
-#include <QGridLayout>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -27,21 +24,17 @@ class NavigationTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init() { m_panel = std::make_unique<PanelFixture>(); }
     void cleanup() { m_panel.reset(); }
 
     void emptyTermIsRefused();
     void blanksAreSearchedFor();
-    void searchButtonSearches();
     void roundTripKeepsItsPages();
-    void pagesTakeTheirPlaceInTheLayout();
     void pageNumbers_data();
     void pageNumbers();
     void dotsCannotBeClicked();
     void pressingElsewhereDoesNotCount();
     void pageIsKeptAcrossSearches();
-    void lastPageButtonIsKept();
     void searchNeedsAKey();
     void paneMayCloseUnderABox_data();
     void paneMayCloseUnderABox();
@@ -49,11 +42,7 @@ private slots:
     void panelSwallowsItsEvents();
 
 private:
-    void click(const QString& button)
-    {
-        QTest::mouseClick(m_panel->shown<QPushButton>(button), Qt::LeftButton);
-    }
-    void clickBack() { click("pushButton"); }
+    void clickBack() { m_panel->click("pushButton"); }
     QStringList bar() const;
 
     std::unique_ptr<PanelFixture> m_panel;
@@ -71,27 +60,11 @@ QStringList NavigationTest::bar() const
     return texts;
 }
 
-/// The values of the process, before any page has been there.
-void NavigationTest::initTestCase()
-{
-    QCOMPARE(CurrentPageNumber, QString("1"));
-    QCOMPARE(SearchTerm, QString());
-    QCOMPARE(ApiKey, QString());
-    QVERIFY(LastPageButton.isNull());
-}
-
 void NavigationTest::emptyTermIsRefused()
 {
     QTest::keyClick(m_panel->shown<QLineEdit>("SearchLine"), Qt::Key_Return);
-    click("SearchButton");
-    QCOMPARE(m_panel->answerer().boxes().size(), 2);
-    for (const test::SeenMessageBox& box : m_panel->answerer().boxes()) {
-        QCOMPARE(box.text, QString("Please enter Search string"));
-        QCOMPARE(box.title, QString("Error"));
-        QCOMPARE(box.icon, QMessageBox::Critical);
-        QCOMPARE(box.buttons, QMessageBox::Ok);
-        QVERIFY(!box.hasParent && !box.quitOnClose);
-    }
+    m_panel->click("SearchButton");
+    QCOMPARE(m_panel->boxTexts(), QStringList({"Please enter Search string", "Please enter Search string"}));
     QCOMPARE(m_panel->shownPages(), QStringList("PV3DPartHarbor_2D"));
     QVERIFY(m_panel->service().requests(searchOperation).isEmpty());
 }
@@ -105,27 +78,22 @@ void NavigationTest::blanksAreSearchedFor()
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
 
-void NavigationTest::searchButtonSearches()
-{
-    QTest::keyClicks(m_panel->shown<QLineEdit>("SearchLine"), "Mutter M8 & \"Co\" <x>");
-    click("SearchButton");
-    QCOMPARE(m_panel->shownPages(), QStringList("PartHarbor_2D"));
-    QTRY_COMPARE(m_panel->sent(searchOperation, "searchTerm"), QStringList("Mutter M8 & \"Co\" <x>"));
-    QCOMPARE(m_panel->sent(searchOperation, "apiKey"), QStringList("key"));
-}
-
 void NavigationTest::roundTripKeepsItsPages()
 {
     QList<QPointer<QWidget>> pages;
     const auto remember = [this, &pages] {
         for (QWidget* page :
              m_panel->container()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (page->isVisible() && !pages.contains(page))
+            if (page->isVisible() && !pages.contains(page)) {
                 pages.append(page);
+                QVERIFY(m_panel->container()->layout()->indexOf(page) >= 0);
+            }
         }
     };
     remember();
-    m_panel->openFirstPart();
+    m_panel->showResults();
+    remember();
+    m_panel->openPart(0);
     remember();
     QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
     for (int round = 2; round < 4; ++round) {
@@ -148,29 +116,6 @@ void NavigationTest::roundTripKeepsItsPages()
 
     m_panel->closePane();
     QCOMPARE(pages.count(nullptr), pages.size());
-}
-
-void NavigationTest::pagesTakeTheirPlaceInTheLayout()
-{
-    auto* layout = qobject_cast<QGridLayout*>(m_panel->container()->layout());
-    const auto shownPage = [this] {
-        return m_panel->container()->findChild<QWidget*>(
-            m_panel->shown<QPushButton>("pushButton1") != nullptr ? "PartHarbor_2D" : "PartHarbor_2DMain");
-    };
-    QWidget* const panel = shownPage();
-    const int place = layout->indexOf(panel);
-    const int count = layout->count();
-    m_panel->showResults();
-    QWidget* const results = shownPage();
-    QCOMPARE(layout->indexOf(panel), -1);
-    QCOMPARE(layout->indexOf(results), place);
-    QCOMPARE(layout->count(), count);
-
-    m_panel->openPart(0);
-    QVERIFY(layout->indexOf(results) >= 0); // stays, hidden
-    clickBack();
-    clickBack();
-    QCOMPARE(layout->count(), count + 3);
 }
 
 void NavigationTest::pageNumbers_data()
@@ -206,7 +151,7 @@ void NavigationTest::pageNumbers()
     QFETCH(QStringList, asked);
     m_panel->showResults();
     for (const QString& button : clicks)
-        click(button);
+        m_panel->click(button);
     QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), asked.size());
     QStringList numbers = m_panel->sent(searchOperation, "pageNumber");
     numbers.sort(); // each request has a connection of its own
@@ -218,13 +163,14 @@ void NavigationTest::pageNumbers()
 void NavigationTest::dotsCannotBeClicked()
 {
     m_panel->showResults();
-    click("prev_pushButton"); // makes the third button dots too
+    m_panel->click("prev_pushButton"); // makes the third button dots too
     QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
-    click("pushButton6");
-    click("pushButton3");
-    click("pushButton1");
+    m_panel->click("pushButton6");
+    m_panel->click("pushButton3");
+    m_panel->click("pushButton1");
     QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 3);
     QCOMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "0", "1"}));
+    QCOMPARE(LastPageButton, m_panel->shown<QPushButton>("pushButton1"));
 }
 
 void NavigationTest::pressingElsewhereDoesNotCount()
@@ -234,7 +180,7 @@ void NavigationTest::pressingElsewhereDoesNotCount()
     auto* previous = m_panel->shown<QPushButton>("prev_pushButton");
     QTest::mousePress(previous, Qt::LeftButton);
     QTest::mouseRelease(previous, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
-    click("pushButton7");
+    m_panel->click("pushButton7");
     QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
     QTest::keyClick(previous, Qt::Key_Space);
     QTRY_COMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "200", "199"}));
@@ -243,23 +189,12 @@ void NavigationTest::pressingElsewhereDoesNotCount()
 void NavigationTest::pageIsKeptAcrossSearches()
 {
     m_panel->showResults();
-    click("pushButton4");
+    m_panel->click("pushButton4");
     QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
     clickBack();
     m_panel->searchFor("nut");
     QTRY_COMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "4", "4"}));
     QCOMPARE(m_panel->sent(searchOperation, "searchTerm").last(), QString("nut"));
-}
-
-void NavigationTest::lastPageButtonIsKept()
-{
-    m_panel->showResults();
-    click("pushButton7");
-    QCOMPARE(LastPageButton, m_panel->shown<QPushButton>("pushButton7"));
-    click("prev_pushButton");
-    QCOMPARE(LastPageButton, m_panel->shown<QPushButton>("prev_pushButton"));
-    m_panel->closePane();
-    QVERIFY(LastPageButton.isNull());
 }
 
 void NavigationTest::searchNeedsAKey()
@@ -270,7 +205,7 @@ void NavigationTest::searchNeedsAKey()
     m_panel->searchFor("bolt");
     QCOMPARE(m_panel->boxTexts(), QStringList(noKeyText));
     QCOMPARE(m_panel->shownPages(), QStringList("PartHarbor_2D"));
-    click("pushButton2");
+    m_panel->click("pushButton2");
     QCOMPARE(m_panel->boxTexts(), QStringList({noKeyText, noKeyText}));
     QVERIFY(m_panel->service().requests(searchOperation).isEmpty());
     QCOMPARE(CurrentPageNumber, QString("2"));
@@ -279,27 +214,25 @@ void NavigationTest::searchNeedsAKey()
 void NavigationTest::paneMayCloseUnderABox_data()
 {
     QTest::addColumn<QString>("place");
-    QTest::addRow("main panel, empty term") << "term";
-    QTest::addRow("main panel, no key") << "search";
-    QTest::addRow("results page, no key") << "page";
-    QTest::addRow("detail page, no key") << "back";
+    for (const char* place : {"empty term", "first page", "another page", "back"})
+        QTest::newRow(place) << place;
 }
 
 void NavigationTest::paneMayCloseUnderABox()
 {
     QFETCH(QString, place);
-    if (place == "page")
+    if (place == "another page")
         m_panel->showResults();
     else if (place == "back")
         m_panel->openFirstPart();
     m_panel->closePaneWithNextBox();
     ApiKey.clear();
-    if (place == "term")
-        click("SearchButton");
-    else if (place == "search")
+    if (place == "empty term")
+        m_panel->click("SearchButton");
+    else if (place == "first page")
         m_panel->searchFor("bolt");
-    else if (place == "page")
-        click("pushButton2");
+    else if (place == "another page")
+        m_panel->click("pushButton2");
     else
         clickBack();
     QCOMPARE(m_panel->boxTexts().size(), 1);
@@ -325,33 +258,14 @@ void NavigationTest::searchLineOutlivesItsKey()
 
 void NavigationTest::panelSwallowsItsEvents()
 {
-    class Panel : public PV3DPartHarbor_2D
-    {
-    public:
-        using PV3DPartHarbor_2D::mousePressEvent;
-        using PV3DPartHarbor_2D::PV3DPartHarbor_2D;
-    };
-    Panel panel(&m_panel->host(), nullptr);
-    const QSignalSpy clicks(&panel, SIGNAL(clicked()));
-    const auto press = [](Qt::MouseButton button) {
-        return QMouseEvent(QEvent::MouseButtonPress, QPointF(1, 1), button, button, Qt::NoModifier);
-    };
-
-    QMouseEvent left = press(Qt::LeftButton);
-    left.ignore();
-    QVERIFY(QCoreApplication::sendEvent(&panel, &left));
-    QVERIFY(left.isAccepted());
-    QEvent unknown(QEvent::User);
-    unknown.ignore();
-    QVERIFY(QCoreApplication::sendEvent(&panel, &unknown));
-    QVERIFY(unknown.isAccepted());
+    auto* panel = m_panel->shown<QWidget>("PartHarbor_2DMain");
+    const QSignalSpy clicks(panel, SIGNAL(clicked()));
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    press.ignore();
+    QVERIFY(QCoreApplication::sendEvent(panel, &press));
+    QVERIFY(press.isAccepted());
     QCOMPARE(clicks.size(), 0);
-
-    QMouseEvent right = press(Qt::RightButton);
-    panel.mousePressEvent(&right);
-    QCOMPARE(clicks.size(), 0);
-    panel.mousePressEvent(&left);
-    QCOMPARE(clicks.size(), 1);
 }
 
 QTEST_MAIN(NavigationTest)

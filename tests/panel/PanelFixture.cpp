@@ -12,7 +12,6 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPointer>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -92,10 +91,20 @@ void PanelFixture::searchFor(const QString& term)
     QTest::keyClick(line, Qt::Key_Return);
 }
 
+void PanelFixture::click(const QString& button)
+{
+    QTest::mouseClick(shown<QPushButton>(button), Qt::LeftButton);
+}
+
 QWidget* PanelFixture::row(int index) const
 {
     const auto* table = shown<QTableWidget>("tableWidget");
     return table == nullptr ? nullptr : table->cellWidget(index, 0);
+}
+
+void PanelFixture::clickThumbnail(int index)
+{
+    QTest::mouseClick(row(index)->findChild<QPushButton*>("iconpushButton"), Qt::LeftButton);
 }
 
 void PanelFixture::showResults()
@@ -107,7 +116,7 @@ void PanelFixture::showResults()
 void PanelFixture::openPart(int index)
 {
     const int before = m_service.requests(configParamsOperation).size();
-    QTest::mouseClick(row(index)->findChild<QPushButton*>("iconpushButton"), Qt::LeftButton);
+    clickThumbnail(index);
     QTRY_VERIFY(m_service.requests(configParamsOperation).size() > before);
 }
 

@@ -8,12 +8,15 @@
 #include "tests/support/ScriptedService.h"
 #include "tests/support/TestCertificates.h"
 
+#include <QPushButton>
 #include <QString>
 #include <QStringList>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(test::ScriptedReply)
 
 namespace test
 {
@@ -68,8 +71,11 @@ public:
 
     /// Types the term into the search line and presses Return.
     void searchFor(const QString& term);
+    /// Clicks the visible button of that name.
+    void click(const QString& button);
     /// @return what the shown results page has in that row's cell; null for none.
     QWidget* row(int index) const;
+    void clickThumbnail(int row);
     /// Searches and waits for the first page of results.
     void showResults();
     /// Clicks the thumbnail of that row and waits until the page has its configuration.

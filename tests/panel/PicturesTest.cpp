@@ -16,22 +16,21 @@ using test::pngPicture;
 using test::ScriptedReply;
 using test::searchOperation;
 
-Q_DECLARE_METATYPE(test::ScriptedReply)
-
 namespace
 {
 
 const QString picturePath = "/pictures/part.png";
+constexpr QSize pictureSize(60, 90);
 
 QPixmap pictureOf(const QLabel* label)
 {
     return label->pixmap(Qt::ReturnByValue);
 }
 
-/// @return a picture of 60 x 90 pixels as a file of that format.
-QByteArray picture(const char* format, const QString& comment = QString())
+/// @return a red picture as a file of that format.
+QByteArray picture(const char* format, const QSize& size = pictureSize, const QString& comment = QString())
 {
-    QImage image(60, 90, QImage::Format_RGB32);
+    QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::red);
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -89,11 +88,8 @@ private slots:
     void init();
     void cleanup() { m_panel.reset(); }
 
-    void thumbnailIsTheRowsIcon();
-    void formats_data();
-    void formats();
-    void largePicturesAreReduced_data();
-    void largePicturesAreReduced();
+    void thumbnails_data();
+    void thumbnails();
     void previewFillsItsLabel_data();
     void previewFillsItsLabel();
     void previewOfAHiddenPage();
@@ -125,52 +121,33 @@ void PicturesTest::openPart(const ScriptedReply& picture)
     QTRY_VERIFY(preview->hasScaledContents());
 }
 
-void PicturesTest::thumbnailIsTheRowsIcon()
-{
-    m_panel->showResults();
-    QTRY_VERIFY(!thumbnail()->icon().isNull());
-    QCOMPARE(thumbnail()->iconSize(), QSize(80, 130));
-    QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({QSize(60, 90)}));
-    QTRY_VERIFY(thumbnail()->visibleRegion().boundingRect().height() >= 130); // nothing of it is cut off
-}
-
-void PicturesTest::formats_data()
+void PicturesTest::thumbnails_data()
 {
     QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSize>("size");
     for (const char* format : {"PNG", "JPG", "BMP"})
-        QTest::addRow("%s", format) << picture(format);
-    QTest::addRow("bitmap from its top") << topDownBitmap();
-    QTest::addRow("texts are not read") << picture("PNG", QString(10'000'000, 'x'));
+        QTest::addRow("%s", format) << picture(format) << pictureSize;
+    QTest::addRow("bitmap from its top") << topDownBitmap() << pictureSize;
+    QTest::addRow("texts are not read")
+        << picture("PNG", pictureSize, QString(10'000'000, 'x')) << pictureSize;
+    QTest::addRow("as large as may be") << picture("PNG", {1024, 1024}) << QSize(1024, 1024);
+    QTest::addRow("reduced") << picture("PNG", {4000, 4000}) << QSize(1024, 1024);
+    QTest::addRow("line") << picture("PNG", {100000, 1}) << QSize(1024, 1);
 }
 
-void PicturesTest::formats()
+void PicturesTest::thumbnails()
 {
     QFETCH(QByteArray, bytes);
+    QFETCH(QSize, size);
     m_panel->service().setReply(picturePath, pictureReply(bytes));
     m_panel->showResults();
     QTRY_VERIFY(!thumbnail()->icon().isNull());
-    const QImage shown = thumbnail()->icon().pixmap(60, 90).toImage();
-    QVERIFY(QColor(shown.pixel(30, 45)).red() > 250);
+    QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({size}));
+    const QImage shown = thumbnail()->icon().pixmap(size).toImage();
+    QVERIFY(QColor(shown.pixel(shown.rect().center())).red() > 250);
     QVERIFY(!bytes.startsWith("\x89PNG") || shown.textKeys().isEmpty());
-}
-
-void PicturesTest::largePicturesAreReduced_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("kept");
-    QTest::addRow("as it is") << QSize(1024, 1024) << QSize(1024, 1024);
-    QTest::addRow("square") << QSize(4000, 4000) << QSize(1024, 1024);
-    QTest::addRow("line") << QSize(100000, 1) << QSize(1024, 1);
-}
-
-void PicturesTest::largePicturesAreReduced()
-{
-    QFETCH(QSize, size);
-    QFETCH(QSize, kept);
-    m_panel->service().setReply(picturePath, pictureReply(pngPicture(size)));
-    m_panel->showResults();
-    QTRY_VERIFY(!thumbnail()->icon().isNull());
-    QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({kept}));
+    QCOMPARE(thumbnail()->iconSize(), QSize(80, 130));
+    QTRY_VERIFY(thumbnail()->visibleRegion().boundingRect().height() >= 130); // nothing of it is cut off
 }
 
 void PicturesTest::previewFillsItsLabel_data()
