@@ -61,6 +61,7 @@ private slots:
     void newerClickDropsTheFile();
     void newestDrawingWaitsForThePrompt_data();
     void newestDrawingWaitsForThePrompt();
+    void newerClickDropsAWaitingDrawing();
     void closedPaneLeavesNoFile_data();
     void closedPaneLeavesNoFile();
     void closingUnderThePrompt_data();
@@ -400,6 +401,26 @@ void DownloadTest::newestDrawingWaitsForThePrompt()
     QVERIFY(insertions()[0].contains("part0.dwg") && insertions()[1].contains("part2.dwg"));
     const QStringList models{"Part 1", otherPages ? "Part 2" : "Part 1", otherPages ? "Part 3" : "Part 1"};
     QCOMPARE(m_panel->sent(downloadOperation, "modelName"), models);
+}
+
+/// The newer drawing is still coming when the prompt returns, and must not be offered before it is complete.
+void DownloadTest::newerClickDropsAWaitingDrawing()
+{
+    m_panel->view().answerPrompts([&](const BlockPrompt&) {
+        if (prompted().size() > 1)
+            return accepted;
+        downloadAnother();
+        m_panel->service().enqueue(drawingPath, pictureReply(drawing).heldAfter(5));
+        m_panel->clickPreview();
+        [this] { QTRY_COMPARE(m_panel->service().heldCount(), 1); }();
+        return accepted;
+    });
+    m_panel->clickPreview();
+    QTRY_COMPARE(m_panel->files(), QStringList("part2.dwg"));
+    QCOMPARE(prompted(), QStringList("part0.dwg"));
+    m_panel->service().releaseAll();
+    QTRY_COMPARE(prompted(), QStringList({"part0.dwg", "part2.dwg"}));
+    QCOMPARE(m_panel->view().promptedContents()[1], drawing);
 }
 
 void DownloadTest::closedPaneLeavesNoFile_data()
