@@ -3,7 +3,6 @@
 #include "tests/support/ScriptedCatalog.h"
 
 #include <QDataStream>
-#include <QMetaEnum>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QSettings>
@@ -23,12 +22,8 @@ QDateTime inDays(int days)
     return QDateTime::currentDateTimeUtc().addDays(days);
 }
 
-QNetworkCookie sessionCookie(const QByteArray& name)
-{
-    return QNetworkCookie(name, "value");
-}
-
-QNetworkCookie persistentCookie(const QByteArray& name, const QDateTime& expiry)
+/// @param expiry none for a session cookie.
+QNetworkCookie cookie(const QByteArray& name, const QDateTime& expiry = {})
 {
     QNetworkCookie cookie(name, "value");
     cookie.setExpirationDate(expiry);
@@ -42,13 +37,14 @@ public:
     using QNetworkCookieJar::allCookies;
     using QNetworkCookieJar::setAllCookies;
 
-    QList<QByteArray> names() const
+    /// One after another, parted by a blank.
+    QByteArray names() const
     {
-        QList<QByteArray> names;
+        QByteArrayList names;
         for (const QNetworkCookie& cookie : allCookies()) {
             names << cookie.name();
         }
-        return names;
+        return names.join(' ');
     }
 };
 
@@ -63,7 +59,7 @@ QByteArray streamOf(const Values&... values)
 
 QList<QNetworkCookie> cookiesIn(const QByteArray& bytes)
 {
-    QList<QNetworkCookie> cookies{sessionCookie("from before")};
+    QList<QNetworkCookie> cookies{cookie("from before")};
     QDataStream stream(bytes);
     stream >> cookies;
     return cookies;
@@ -80,33 +76,16 @@ private slots:
     void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
     void cleanup();
 
-    void startsWithItsDefaults();
-    void enumerationsAreKnownByName();
-    void propertiesAreStoredAndListsSorted();
-
     void sitesThatMaySetCookies_data();
     void sitesThatMaySetCookies();
-    void cookiesThatTheToolkitRefuses_data();
-    void cookiesThatTheToolkitRefuses();
-    void additionsOfOneReplyAreReportedOnce();
-    void timeLimit_data();
     void timeLimit();
-
     void settings_data();
     void settings();
-    void settingsOfASessionEmptyTheJar();
-
-    void clearing();
-    void theEndOfTheJar_data();
-    void theEndOfTheJar();
+    void emptying();
     void purging();
-    void loadAndSaveDoNothing();
-
     void savedForm();
-    void unreadableSavedForms_data();
-    void unreadableSavedForms();
-    void entriesThatAreNoCookieAreReported();
-
+    void strangeSavedForms_data();
+    void strangeSavedForms();
     void exchangeWithAService_data();
     void exchangeWithAService();
 
@@ -128,318 +107,194 @@ void CookieJarTest::cleanup()
     m_warnings.reset();
 }
 
-void CookieJarTest::startsWithItsDefaults()
-{
-    const OpenJar jar;
-    QCOMPARE(jar.acceptPolicy(), CookieJar::AcceptOnlyFromSitesNavigatedTo);
-    QCOMPARE(jar.keepPolicy(), CookieJar::KeepUntilExpire);
-    QVERIFY(jar.blockedCookies().isEmpty());
-    QVERIFY(jar.allowedCookies().isEmpty());
-    QVERIFY(jar.allowForSessionCookies().isEmpty());
-    QVERIFY(jar.allCookies().isEmpty());
-}
-
-void CookieJarTest::enumerationsAreKnownByName()
-{
-    const auto accept = QMetaEnum::fromType<CookieJar::AcceptPolicy>();
-    QCOMPARE(accept.name(), "AcceptPolicy");
-    QCOMPARE(accept.keyToValue("AcceptAlways"), 0);
-    QCOMPARE(accept.keyToValue("AcceptNever"), 1);
-    QCOMPARE(accept.keyToValue("AcceptOnlyFromSitesNavigatedTo"), 2);
-    const auto keep = QMetaEnum::fromType<CookieJar::KeepPolicy>();
-    QCOMPARE(keep.name(), "KeepPolicy");
-    QCOMPARE(keep.keyToValue("KeepUntilExpire"), 0);
-    QCOMPARE(keep.keyToValue("KeepUntilExit"), 1);
-    QCOMPARE(keep.keyToValue("KeepUntilTimeLimit"), 2);
-}
-
-void CookieJarTest::propertiesAreStoredAndListsSorted()
-{
-    CookieJar jar;
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QVERIFY(jar.setProperty("acceptPolicy", "AcceptAlways"));
-    QVERIFY(jar.setProperty("keepPolicy", "KeepUntilTimeLimit"));
-    for (const char* list : {"blockedCookies", "allowedCookies", "allowForSessionCookies"}) {
-        QVERIFY(jar.setProperty(list, QStringList{"b.test", "a.test", "B.test"}));
-        QCOMPARE(jar.property(list).toStringList(), QStringList({"B.test", "a.test", "b.test"}));
-    }
-    QCOMPARE(jar.acceptPolicy(), CookieJar::AcceptAlways);
-    QCOMPARE(jar.keepPolicy(), CookieJar::KeepUntilTimeLimit);
-    QCOMPARE(changed.size(), 0);
-}
-
 void CookieJarTest::sitesThatMaySetCookies_data()
 {
-    QTest::addColumn<CookieJar::AcceptPolicy>("policy");
+    QTest::addColumn<QByteArray>("policy"); // none for the one from the start
     QTest::addColumn<QByteArray>("list");
     QTest::addColumn<QStringList>("hosts");
-    QTest::addColumn<bool>("accepted");
-
+    QTest::addColumn<QByteArray>("stored");
     const QString host = site.host();
-    const QStringList listed{"zone.test", host, "another.test"};
-    const QStringList near{host.section('.', 1), "." + host, host.toUpper(), "www." + host, site.authority()};
-    QTest::addRow("always") << CookieJar::AcceptAlways << QByteArray("allowedCookies") << QStringList()
-                            << true;
-    QTest::addRow("always, blocked") << CookieJar::AcceptAlways << QByteArray("blockedCookies") << listed
-                                     << false;
-    QTest::addRow("always, nearly blocked")
-        << CookieJar::AcceptAlways << QByteArray("blockedCookies") << near << true;
-    QTest::addRow("navigated") << CookieJar::AcceptOnlyFromSitesNavigatedTo << QByteArray("allowedCookies")
-                               << QStringList() << true;
-    QTest::addRow("navigated, blocked")
-        << CookieJar::AcceptOnlyFromSitesNavigatedTo << QByteArray("blockedCookies") << listed << false;
-    QTest::addRow("never") << CookieJar::AcceptNever << QByteArray("allowedCookies") << QStringList()
-                           << false;
-    QTest::addRow("never, allowed") << CookieJar::AcceptNever << QByteArray("allowedCookies") << listed
-                                    << true;
-    QTest::addRow("never, nearly allowed")
-        << CookieJar::AcceptNever << QByteArray("allowedCookies") << near << false;
-    QTest::addRow("never, session") << CookieJar::AcceptNever << QByteArray("allowForSessionCookies")
-                                    << listed << true;
-    QTest::addRow("never, blocked") << CookieJar::AcceptNever << QByteArray("blockedCookies") << listed
-                                    << false;
+    const QStringList exact{"zone.test", host, "another.test"};
+    const QStringList near{host.section('.', 1), '.' + host, host.toUpper(), "a." + host, site.authority()};
+    const auto add = [](const QByteArray& policy, const QByteArray& list, const QStringList& hosts,
+                        const QByteArray& stored) {
+        QTest::addRow("%s, %s %s", policy.data(), list.data(), qPrintable(hosts.join(' ')))
+            << policy << list << hosts << stored;
+    };
+    add("AcceptAlways", "allowedCookies", {}, "a foreign b");
+    add("AcceptAlways", "blockedCookies", exact, "");
+    add("AcceptAlways", "blockedCookies", near, "a foreign b");
+    add("", "allowedCookies", {}, "a b");
+    add("", "blockedCookies", exact, "");
+    add("AcceptOnlyFromSitesNavigatedTo", "blockedCookies", near, "a b");
+    add("AcceptNever", "blockedCookies", {}, "");
+    add("AcceptNever", "allowedCookies", exact, "a b");
+    add("AcceptNever", "allowedCookies", near, "");
+    add("AcceptNever", "allowForSessionCookies", exact, "a b");
 }
 
+/// Policy and lists are set as properties, without a signal; additions of one reply are reported once.
 void CookieJarTest::sitesThatMaySetCookies()
 {
-    QFETCH(CookieJar::AcceptPolicy, policy);
+    QFETCH(QByteArray, policy);
     QFETCH(QByteArray, list);
     QFETCH(QStringList, hosts);
-    QFETCH(bool, accepted);
+    QFETCH(QByteArray, stored);
     OpenJar jar;
-    jar.setAcceptPolicy(policy);
-    jar.setProperty(list.constData(), hosts);
     const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QCOMPARE(jar.setCookiesFromUrl({sessionCookie("id")}, site), accepted);
-    QCOMPARE(jar.allCookies().size(), accepted ? 1 : 0);
-    QCOMPARE(changed.size(), accepted ? 1 : 0);
-}
+    QVERIFY(policy.isEmpty() || jar.setProperty("acceptPolicy", policy.constData()));
+    QVERIFY(jar.setProperty(list.constData(), hosts));
+    hosts.sort();
+    QCOMPARE(jar.property(list.constData()).toStringList(), hosts);
+    QCOMPARE(changed.size(), 0);
+    if (policy == "AcceptNever") {
+        jar.setBlockedCookies({site.host()}); // which are not asked then
+    }
 
-void CookieJarTest::cookiesThatTheToolkitRefuses_data()
-{
-    QTest::addColumn<CookieJar::AcceptPolicy>("policy");
-    QTest::addColumn<QStringList>("allowed");
-    QTest::addColumn<bool>("accepted");
-    QTest::addRow("always") << CookieJar::AcceptAlways << QStringList() << true;
-    QTest::addRow("navigated") << CookieJar::AcceptOnlyFromSitesNavigatedTo << QStringList() << false;
-    QTest::addRow("never, allowed") << CookieJar::AcceptNever << QStringList(site.host()) << false;
-}
-
-void CookieJarTest::cookiesThatTheToolkitRefuses()
-{
-    QFETCH(CookieJar::AcceptPolicy, policy);
-    QFETCH(QStringList, allowed);
-    QFETCH(bool, accepted);
-    QNetworkCookie foreign = sessionCookie("foreign");
+    QNetworkCookie foreign = cookie("foreign");
     foreign.setDomain("elsewhere.test");
-    OpenJar jar;
-    jar.setAcceptPolicy(policy);
-    jar.setAllowedCookies(allowed);
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QCOMPARE(jar.setCookiesFromUrl({foreign}, site), accepted);
-    QCOMPARE(changed.size(), accepted ? 1 : 0);
-    QCOMPARE(jar.allCookies(), accepted ? QList<QNetworkCookie>{foreign} : QList<QNetworkCookie>());
-}
-
-void CookieJarTest::additionsOfOneReplyAreReportedOnce()
-{
-    QNetworkCookie foreign = sessionCookie("foreign");
-    foreign.setDomain("elsewhere.test");
-    OpenJar jar;
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QVERIFY(jar.setCookiesFromUrl({sessionCookie("a"), foreign, sessionCookie("b")}, site));
-    QCOMPARE(jar.names(), QList<QByteArray>({"a", "b"}));
-    QVERIFY(!jar.setCookiesFromUrl({foreign}, site));
-    QVERIFY(!jar.setCookiesFromUrl({}, site));
-    QCOMPARE(changed.size(), 1);
-}
-
-void CookieJarTest::timeLimit_data()
-{
-    QTest::addColumn<CookieJar::KeepPolicy>("policy");
-    QTest::addColumn<QNetworkCookie>("cookie");
-    QTest::addColumn<bool>("limited");
-    QTest::addRow("a year") << CookieJar::KeepUntilTimeLimit << persistentCookie("id", inDays(365)) << true;
-    QTest::addRow("a month") << CookieJar::KeepUntilTimeLimit << persistentCookie("id", inDays(30)) << false;
-    QTest::addRow("session") << CookieJar::KeepUntilTimeLimit << sessionCookie("id") << false;
-    QTest::addRow("no limit") << CookieJar::KeepUntilExpire << persistentCookie("id", inDays(365)) << false;
+    QCOMPARE(jar.setCookiesFromUrl({cookie("a"), foreign, cookie("b")}, site), !stored.isEmpty());
+    QCOMPARE(jar.names(), stored);
+    QCOMPARE(changed.size(), stored.isEmpty() ? 0 : 1);
+    jar.setAllCookies({});
+    QCOMPARE(jar.setCookiesFromUrl({foreign}, site), stored.contains("foreign"));
 }
 
 void CookieJarTest::timeLimit()
 {
-    QFETCH(CookieJar::KeepPolicy, policy);
-    QFETCH(QNetworkCookie, cookie);
-    QFETCH(bool, limited);
+    const QList<QNetworkCookie> cookies{cookie("a", inDays(365)), cookie("b", inDays(30)), cookie("c")};
     OpenJar jar;
-    jar.setKeepPolicy(policy);
+    QVERIFY(jar.setCookiesFromUrl(cookies, site));
+    QCOMPARE(jar.allCookies().at(0).expirationDate(), cookies.at(0).expirationDate());
+
+    jar.clear();
+    QVERIFY(jar.setProperty("keepPolicy", "KeepUntilTimeLimit"));
     const QDateTime earliest = inDays(90);
-    QVERIFY(jar.setCookiesFromUrl({cookie}, site));
-    const QDateTime latest = inDays(90);
-    const QDateTime expiry = jar.allCookies().at(0).expirationDate();
-    if (limited) {
-        QVERIFY(earliest <= expiry && expiry <= latest);
-    } else {
-        QCOMPARE(expiry, cookie.expirationDate());
-    }
+    QVERIFY(jar.setCookiesFromUrl(cookies, site));
+    const QDateTime limited = jar.allCookies().at(0).expirationDate();
+    QVERIFY(earliest <= limited && limited <= inDays(90));
+    QCOMPARE(jar.allCookies().at(1).expirationDate(), cookies.at(1).expirationDate());
+    QVERIFY(jar.allCookies().at(2).isSessionCookie());
 }
 
 void CookieJarTest::settings_data()
 {
-    QTest::addColumn<QVariant>("acceptCookies");
-    QTest::addColumn<QVariant>("keepCookiesUntil");
-    QTest::addColumn<CookieJar::AcceptPolicy>("accept");
-    QTest::addColumn<CookieJar::KeepPolicy>("keep");
-    const auto defaultAccept = CookieJar::AcceptOnlyFromSitesNavigatedTo;
-    QTest::addRow("missing") << QVariant() << QVariant() << defaultAccept << CookieJar::KeepUntilExpire;
-    QTest::addRow("first keys") << QVariant("AcceptAlways") << QVariant("KeepUntilExpire")
-                                << CookieJar::AcceptAlways << CookieJar::KeepUntilExpire;
-    QTest::addRow("middle keys") << QVariant("AcceptNever") << QVariant("KeepUntilExit")
-                                 << CookieJar::AcceptNever << CookieJar::KeepUntilExit;
-    QTest::addRow("last keys") << QVariant("AcceptOnlyFromSitesNavigatedTo") << QVariant("KeepUntilTimeLimit")
-                               << defaultAccept << CookieJar::KeepUntilTimeLimit;
-    QTest::addRow("unknown") << QVariant("acceptalways") << QVariant("KeepForever") << defaultAccept
-                             << CookieJar::KeepUntilExpire;
-    QTest::addRow("numbers") << QVariant(0) << QVariant(1) << defaultAccept << CookieJar::KeepUntilExpire;
-    QTest::addRow("empty") << QVariant("") << QVariant("") << defaultAccept << CookieJar::KeepUntilExpire;
+    QTest::addColumn<QString>("acceptCookies"); // null for none
+    QTest::addColumn<QString>("keepCookiesUntil");
+    QTest::addColumn<bool>("known");
+    const auto add = [](const char* acceptCookies, const char* keepCookiesUntil, bool known) {
+        QTest::addRow("%s", acceptCookies) << QString(acceptCookies) << QString(keepCookiesUntil) << known;
+    };
+    QTest::addRow("none") << QString() << QString() << false;
+    add("AcceptAlways", "KeepUntilExpire", true);
+    add("AcceptNever", "KeepUntilExit", true);
+    add("AcceptOnlyFromSitesNavigatedTo", "KeepUntilTimeLimit", true);
+    add("acceptalways", "KeepForever", false);
+    add("0", "1", false);
 }
 
 void CookieJarTest::settings()
 {
-    QFETCH(QVariant, acceptCookies);
-    QFETCH(QVariant, keepCookiesUntil);
-    if (acceptCookies.isValid()) {
+    QFETCH(QString, acceptCookies);
+    QFETCH(QString, keepCookiesUntil);
+    QFETCH(bool, known);
+    if (!acceptCookies.isNull()) {
         QSettings().setValue("cookies/acceptCookies", acceptCookies);
         QSettings().setValue("cookies/keepCookiesUntil", keepCookiesUntil);
     }
-    CookieJar jar;
+    OpenJar jar;
     jar.setAcceptPolicy(CookieJar::AcceptNever);
     jar.setKeepPolicy(CookieJar::KeepUntilTimeLimit);
+    jar.setAllCookies({cookie("a")});
     const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
+    bool emptyAtTheSignal = false;
+    connect(&jar, &CookieJar::cookiesChanged, this, [&] { emptyAtTheSignal = jar.allCookies().isEmpty(); });
     QVERIFY(QMetaObject::invokeMethod(&jar, "loadSettings"));
-    QTEST(jar.acceptPolicy(), "accept");
-    QTEST(jar.keepPolicy(), "keep");
+    QCOMPARE(emptyAtTheSignal, keepCookiesUntil == "KeepUntilExit");
+    QCOMPARE(QVariant::fromValue(jar.acceptPolicy()).toString(),
+             known ? acceptCookies : QString("AcceptOnlyFromSitesNavigatedTo"));
+    QCOMPARE(QVariant::fromValue(jar.keepPolicy()).toString(),
+             known ? keepCookiesUntil : QString("KeepUntilExpire"));
     QCOMPARE(changed.size(), 1);
+    QCOMPARE(jar.allCookies().isEmpty(), keepCookiesUntil == "KeepUntilExit");
 }
 
-void CookieJarTest::settingsOfASessionEmptyTheJar()
+/// At a call, and under one policy at the end of the jar.
+void CookieJarTest::emptying()
 {
-    OpenJar jar;
-    QVERIFY(jar.setCookiesFromUrl({sessionCookie("id")}, site));
-    jar.loadSettings();
-    QCOMPARE(jar.allCookies().size(), 1);
-    QSettings().setValue("cookies/keepCookiesUntil", "KeepUntilExit");
-    jar.loadSettings();
-    QCOMPARE(jar.allCookies().size(), 0);
+    for (const auto policy :
+         {CookieJar::KeepUntilExpire, CookieJar::KeepUntilExit, CookieJar::KeepUntilTimeLimit}) {
+        auto jar = std::make_unique<OpenJar>();
+        jar->setKeepPolicy(policy);
+        jar->setAllCookies({cookie("a")});
+        const QSignalSpy changed(jar.get(), &CookieJar::cookiesChanged);
+        QByteArray namesAtTheSignal = "none";
+        connect(jar.get(), &CookieJar::cookiesChanged, this, [&] { namesAtTheSignal = jar->names(); });
+        QVERIFY(QMetaObject::invokeMethod(jar.get(), "clear"));
+        QCOMPARE(namesAtTheSignal, QByteArray());
+        QVERIFY(jar->allCookies().isEmpty());
+        jar->disconnect(this);
+        QCOMPARE(changed.size(), 1);
+        jar.reset();
+        QCOMPARE(changed.size(), policy == CookieJar::KeepUntilExit ? 2 : 1);
+    }
 }
 
-void CookieJarTest::clearing()
-{
-    OpenJar jar;
-    jar.setAllCookies({sessionCookie("id")});
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QVERIFY(QMetaObject::invokeMethod(&jar, "clear"));
-    QVERIFY(jar.allCookies().isEmpty());
-    QCOMPARE(changed.size(), 1);
-}
-
-void CookieJarTest::theEndOfTheJar_data()
-{
-    QTest::addColumn<CookieJar::KeepPolicy>("policy");
-    QTest::addColumn<int>("changes");
-    QTest::addRow("until expire") << CookieJar::KeepUntilExpire << 0;
-    QTest::addRow("until exit") << CookieJar::KeepUntilExit << 1;
-    QTest::addRow("until time limit") << CookieJar::KeepUntilTimeLimit << 0;
-}
-
-void CookieJarTest::theEndOfTheJar()
-{
-    QFETCH(CookieJar::KeepPolicy, policy);
-    auto jar = std::make_unique<CookieJar>();
-    jar->setKeepPolicy(policy);
-    const QSignalSpy changed(jar.get(), &CookieJar::cookiesChanged);
-    jar.reset();
-    QTEST(changed.size(), "changes");
-}
-
+/// Saving and loading do nothing, so that nothing else purges the jar.
 void CookieJarTest::purging()
 {
     OpenJar jar;
     const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    jar.purgeExpired();
-    jar.setAllCookies({sessionCookie("a"), persistentCookie("b", inDays(1))});
-    jar.purgeExpired();
-    QCOMPARE(changed.size(), 0);
-
-    jar.setAllCookies({persistentCookie("old 1", inDays(-1)), sessionCookie("a"),
-                       persistentCookie("old 2", inDays(-100)), persistentCookie("b", inDays(1)),
-                       persistentCookie("old 3", QDateTime::currentDateTimeUtc().addMSecs(-1))});
-    jar.purgeExpired();
-    QCOMPARE(jar.names(), QList<QByteArray>({"a", "b"}));
-    QCOMPARE(changed.size(), 1);
-}
-
-void CookieJarTest::loadAndSaveDoNothing()
-{
-    OpenJar jar;
-    jar.setAllCookies({sessionCookie("a"), persistentCookie("old", inDays(-1))});
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    QVERIFY(!jar.load());
+    jar.setAllCookies({cookie("old", inDays(-1)), cookie("a"), cookie("older", inDays(-100)),
+                       cookie("b", inDays(1)), cookie("last", inDays(0).addMSecs(-1))});
     QVERIFY(QMetaObject::invokeMethod(&jar, "save"));
     QVERIFY(!jar.load());
-    QCOMPARE(jar.allCookies().size(), 2);
     QVERIFY(QSettings().allKeys().isEmpty());
+    QCOMPARE(jar.names(), "old a older b last");
     QCOMPARE(changed.size(), 0);
+    for (int i = 0; i < 2; ++i) {
+        jar.purgeExpired();
+        QCOMPARE(jar.names(), "a b");
+        QCOMPARE(changed.size(), 1);
+    }
 }
 
 void CookieJarTest::savedForm()
 {
-    QNetworkCookie first = persistentCookie("id", QDateTime({2030, 1, 2}, {3, 4, 5}, Qt::UTC));
+    QNetworkCookie first = cookie("id", QDateTime({2030, 1, 2}, {3, 4, 5}, Qt::UTC));
     first.setDomain(".catalog.test");
-    first.setPath("/");
     first.setSecure(true);
-    first.setHttpOnly(true);
-    const QNetworkCookie second = sessionCookie("other");
-    const QList<QNetworkCookie> cookies{first, second};
-
+    const QList<QNetworkCookie> cookies{first, cookie("other")};
     const QByteArray bytes = streamOf(cookies);
-    QCOMPARE(bytes, streamOf(quint32(23), quint32(2), first.toRawForm(), second.toRawForm()));
+    QCOMPARE(bytes, streamOf(quint32(23), quint32(2), first.toRawForm(), cookies.at(1).toRawForm()));
     QCOMPARE(cookiesIn(bytes), cookies);
-    QCOMPARE(streamOf(QList<QNetworkCookie>()), streamOf(quint32(23), quint32(0)));
+
+    m_warnings->expect(QtWarningMsg, "CookieJar: Unable to parse saved cookie: \"no cookie\"");
+    QCOMPARE(cookiesIn(streamOf(quint32(23), quint32(2), QByteArray("no cookie"), QByteArray("a=1"))).size(),
+             1);
 }
 
-void CookieJarTest::unreadableSavedForms_data()
+void CookieJarTest::strangeSavedForms_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("count");
     const QByteArray a = "a=1";
     const QByteArray b = "b=2";
-    QTest::addRow("nothing") << QByteArray() << 0;
     QTest::addRow("version 22") << streamOf(quint32(22), quint32(1), a) << 0;
     QTest::addRow("version 24") << streamOf(quint32(24), quint32(1), a) << 0;
     QTest::addRow("no count") << streamOf(quint32(23)) << 0;
     QTest::addRow("count too large") << streamOf(quint32(23), quint32(0xFFFFFFFF), a, b) << 2;
     QTest::addRow("count too small") << streamOf(quint32(23), quint32(1), a, b) << 1;
     QTest::addRow("entry cut") << streamOf(quint32(23), quint32(2), a, b).chopped(1) << 1;
-    QTest::addRow("length cut") << streamOf(quint32(23), quint32(2), a, b).chopped(b.size() + 1) << 1;
     QTest::addRow("entry too long") << streamOf(quint32(23), quint32(2), a, quint32(0x7FFFFFFF), b) << 1;
-    QTest::addRow("null and empty entries")
-        << streamOf(quint32(23), quint32(3), QByteArray(), QByteArray(""), b) << 1;
+    QTest::addRow("empty entry") << streamOf(quint32(23), quint32(2), QByteArray(""), b) << 1;
     QTest::addRow("two in one entry") << streamOf(quint32(23), quint32(1), QByteArray("a=1\nb=2")) << 2;
 }
 
-void CookieJarTest::unreadableSavedForms()
+void CookieJarTest::strangeSavedForms()
 {
     QFETCH(QByteArray, bytes);
     QTEST(cookiesIn(bytes).size(), "count");
-}
-
-void CookieJarTest::entriesThatAreNoCookieAreReported()
-{
-    m_warnings->expect(QtWarningMsg, "CookieJar: Unable to parse saved cookie: \"no cookie\"");
-    const auto cookies =
-        cookiesIn(streamOf(quint32(23), quint32(2), QByteArray("no cookie"), QByteArray("a=1")));
-    QCOMPARE(cookies.size(), 1);
-    QCOMPARE(cookies.at(0).name(), QByteArray("a"));
 }
 
 void CookieJarTest::exchangeWithAService_data()
@@ -447,36 +302,30 @@ void CookieJarTest::exchangeWithAService_data()
     QTest::addColumn<CookieJar::AcceptPolicy>("policy");
     QTest::addColumn<QByteArray>("sentBack");
     QTest::addRow("accepted") << CookieJar::AcceptOnlyFromSitesNavigatedTo
-                              << QByteArray("session=1; lasting=2");
+                              << QByteArray("lasting=2; session=1");
     QTest::addRow("refused") << CookieJar::AcceptNever << QByteArray();
 }
 
+/// The jar installed on a network manager.
 void CookieJarTest::exchangeWithAService()
 {
     QFETCH(CookieJar::AcceptPolicy, policy);
     test::ScriptedCatalog catalog;
-    catalog.service().setReply("/ContentWS/",
-                               test::ScriptedReply::xml("<x/>")
-                                   .withHeader("Set-Cookie", "session=1; Path=/")
-                                   .withHeader("Set-Cookie", "lasting=2; Path=/; Max-Age=31536000")
-                                   .withHeader("Set-Cookie", "foreign=3; Domain=elsewhere.test"));
-
+    catalog.service().setReply(site.path(), test::ScriptedReply::xml("<x/>")
+                                                .withHeader("Set-Cookie", "session=1; Path=/")
+                                                .withHeader("Set-Cookie", "lasting=2; Max-Age=31536000")
+                                                .withHeader("Set-Cookie", "foreign=3; Domain=else.test"));
     QNetworkAccessManager manager;
     auto* jar = new OpenJar;
     manager.setCookieJar(jar); // which takes ownership
     jar->setAcceptPolicy(policy);
-    jar->setKeepPolicy(CookieJar::KeepUntilTimeLimit);
     for (int i = 0; i < 2; ++i) {
         const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(site)));
         QTRY_VERIFY(reply->isFinished());
         QCOMPARE(reply->error(), QNetworkReply::NoError);
     }
-
     QCOMPARE(catalog.service().requests().at(0).header("Cookie"), QByteArray());
     QTEST(catalog.service().requests().at(1).header("Cookie"), "sentBack");
-    for (const QNetworkCookie& cookie : jar->allCookies()) {
-        QVERIFY(cookie.isSessionCookie() || cookie.expirationDate() <= inDays(90));
-    }
 }
 
 QTEST_GUILESS_MAIN(CookieJarTest)

@@ -3,10 +3,7 @@
 #include "tests/service/Envelope.h"
 #include "tests/service/ServiceFixture.h"
 
-#include <QMetaMethod>
 #include <QtTest>
-
-#include <type_traits>
 
 using test::ScriptedReply;
 
@@ -14,15 +11,6 @@ namespace
 {
 
 const QString keyOperation = "GenerateApiKeyByDescription";
-
-QStringList operationsOf(const QVector<test::RecordedRequest>& requests)
-{
-    QStringList operations;
-    for (const test::RecordedRequest& request : requests) {
-        operations.append(request.operation());
-    }
-    return operations;
-}
 
 } // namespace
 
@@ -35,10 +23,7 @@ private slots:
     void init() { m_fixture = std::make_unique<test::ServiceFixture>(); }
     void cleanup() { m_fixture.reset(); }
 
-    void interface();
-    void bootstrap();
     void theLastKeyToArriveStays();
-    void loginBeforeTheKey();
     void loginsInARow();
     void debugOutput();
 
@@ -47,31 +32,6 @@ private:
 
     std::unique_ptr<test::ServiceFixture> m_fixture;
 };
-
-void DataStorageTest::interface()
-{
-    static_assert(std::is_same_v<decltype(&DataStorage::SetUserId), void (DataStorage::*)(QString)>);
-    static_assert(std::is_same_v<decltype(&DataStorage::SetPassword), void (DataStorage::*)(QString)>);
-    QStringList slotsInOrder;
-    const QMetaObject& meta = DataStorage::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
-        slotsInOrder.append(meta.method(i).methodSignature());
-    }
-    QCOMPARE(slotsInOrder, (QStringList{"ServiceLogin()", "SetSessionID(QNetworkReply*)",
-                                        "GetAPIKey(QNetworkReply*)", "SetUserToken(QNetworkReply*)"}));
-}
-
-void DataStorageTest::bootstrap()
-{
-    m_fixture->scriptSession("session", "key");
-    const DataStorage session;
-    QVERIFY(session.parent() == nullptr);
-    QTRY_COMPARE(ApiKey, QString("key"));
-    QCOMPARE(operationsOf(m_fixture->service().requests()), (QStringList{"ServiceLogin", keyOperation}));
-    QCOMPARE(UserToken, QString());
-    QCOMPARE(m_fixture->boxes().size(), 0);
-}
 
 void DataStorageTest::theLastKeyToArriveStays()
 {
@@ -95,16 +55,8 @@ void DataStorageTest::theLastKeyToArriveStays()
     QTRY_COMPARE(ApiKey, QString());
 }
 
-void DataStorageTest::loginBeforeTheKey()
-{
-    m_fixture->service().setReply("ServiceLogin", ScriptedReply::never());
-    DataStorage session;
-    logIn(session, "token");
-    QCOMPARE(test::Envelope::read(m_fixture->service().requests("UserLogin").at(0).body).parameters,
-             (QStringList{"apiKey=", "userId=user@example.test", "password=secret"}));
-}
-
-/// Whatever the service answers takes the token's place; the box says what the token has become.
+/// Before there is a key. Whatever the service answers takes the token's place; the box says what the token
+/// has become.
 void DataStorageTest::loginsInARow()
 {
     m_fixture->service().setReply("ServiceLogin", ScriptedReply::never());
@@ -112,6 +64,8 @@ void DataStorageTest::loginsInARow()
     for (const QString token : {"token", "other", "", "again"}) {
         const int before = m_fixture->boxes().size();
         logIn(session, token);
+        QCOMPARE(test::Envelope::read(m_fixture->service().requests("UserLogin").last().body).parameters,
+                 (QStringList{"apiKey=", "userId=user@example.test", "password=secret"}));
         QCOMPARE(UserToken, token);
         QCOMPARE(m_fixture->boxes().size(), before + 1);
         const test::SeenMessageBox& box = m_fixture->boxes().last();

@@ -7,7 +7,6 @@
 #include "service/SoapRequest.h"
 #include "service/XmlGuard.h"
 #include "tests/service/Envelope.h"
-#include "tests/service/MissingResources.h"
 #include "tests/service/ServiceFixture.h"
 
 #include <QGridLayout>
@@ -15,18 +14,37 @@
 #include <QNetworkReply>
 #include <QtTest>
 
-using test::MissingResources;
 using test::ScriptedReply;
 using Identity = test::ScriptedCatalog::Identity;
-using Answer = ScriptedReply (*)(const QString& operation);
+using Answer = ScriptedReply (*)(const QByteArray& body);
 
 Q_DECLARE_METATYPE(Answer)
 Q_DECLARE_METATYPE(Identity)
 
+// The resource macros declare functions of the global namespace.
+
+/// All request templates.
+static void setBundle(bool there)
+{
+    if (there) {
+        Q_INIT_RESOURCE(DockWidget_3DPH);
+    } else {
+        Q_CLEANUP_RESOURCE(DockWidget_3DPH);
+    }
+}
+
+/// The gate that replies pass, which this program has once more outside the bundle.
+static void setGate(bool there)
+{
+    if (there) {
+        Q_INIT_RESOURCE(OwnGate);
+    } else {
+        Q_CLEANUP_RESOURCE(OwnGate);
+    }
+}
+
 namespace
 {
-
-const QString externalPath = "/ContentWS/ExternalWS.asmx";
 
 /// The senders and the slots of their replies, each as a page of the pane has them.
 class Askers
@@ -60,12 +78,6 @@ private:
     PreviewUI m_detail;
 };
 
-/// A body around a result element of the operation.
-QByteArray bodyAround(const QString& operation, const QByteArray& element)
-{
-    return "<r>" + QByteArray(element).replace("Result", operation.toUtf8() + "Result") + "</r>";
-}
-
 } // namespace
 
 /// What becomes of a request that cannot be sent and of a reply that says nothing.
@@ -74,34 +86,39 @@ class SoapFailureTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { m_fixture.reset(); }
+    void init() { start(&test::TestCertificates::good); }
+    void cleanup();
 
-    void missingTemplates_data();
-    void missingTemplates();
-    void missingGate_data();
-    void missingGate();
+    void missingResources_data();
+    void missingResources();
     void replies_data();
     void replies();
-    void refusedConnection();
-    void certificates_data();
-    void certificates();
+    void noConnection_data();
+    void noConnection();
     void endlessReply();
     void managersGo();
 
 private:
+    void start(Identity identity);
     void compareErrorBox(const QString& path);
     void compareNothingSent(Askers& askers);
-    void compareLoginAsUnanswered();
 
     std::unique_ptr<test::ServiceFixture> m_fixture;
 };
 
-void SoapFailureTest::init()
+void SoapFailureTest::start(Identity identity)
 {
-    m_fixture = std::make_unique<test::ServiceFixture>();
+    m_fixture.reset(); // before the next: there is one proxy at a time
+    m_fixture = std::make_unique<test::ServiceFixture>(identity);
     ApiKey = "old key";
     UserToken = "old token";
+}
+
+void SoapFailureTest::cleanup()
+{
+    setBundle(true);
+    setGate(true);
+    m_fixture.reset();
 }
 
 /// There is one box, and it says that the resource cannot be opened.
@@ -133,170 +150,108 @@ void SoapFailureTest::compareNothingSent(Askers& askers)
     QCOMPARE(UserToken, QString("old token"));
 }
 
-void SoapFailureTest::missingTemplates_data()
+void SoapFailureTest::missingResources_data()
 {
-    QTest::addColumn<QString>("asked");   // what the user's action sends
-    QTest::addColumn<QString>("missing"); // of what there is no template; it follows the former's reply
-    QTest::newRow("TokenXMLFile.xml") << "ServiceLogin"
-                                      << "ServiceLogin";
-    QTest::newRow("APIKeyXML.xml") << "ServiceLogin"
-                                   << "GenerateApiKeyByDescription";
-    QTest::newRow("Login.xml") << "UserLogin"
-                               << "UserLogin";
-    QTest::newRow("Searchcatalog.xml") << "SimpleSearchAcrossCatalogs"
-                                       << "SimpleSearchAcrossCatalogs";
-    QTest::newRow("ConfigInfo.xml") << "GetConfigInfo"
-                                    << "GetConfigInfo";
-    QTest::newRow("ConfigParams.xml") << "GetConfigInfo"
-                                      << "GetConfigParams";
-    QTest::newRow("download.xml") << "GetDownload2D"
-                                  << "GetDownload2D";
+    QTest::addColumn<QString>("resource");
+    QTest::addColumn<QString>("asked"); // what the user's action sends
+    QTest::addColumn<QString>("held");  // the operation on whose reply the resource is missing, if any
+    const auto add = [](const char* resource, const char* asked, const char* held) {
+        QTest::addRow("%s, %s", resource, held) << QString(resource) << QString(asked) << QString(held);
+    };
+    add("TokenXMLFile.xml", "ServiceLogin", "");
+    add("APIKeyXML.xml", "ServiceLogin", "ServiceLogin");
+    add("Login.xml", "UserLogin", "");
+    add("Searchcatalog.xml", "SimpleSearchAcrossCatalogs", "");
+    add("ConfigInfo.xml", "GetConfigInfo", "");
+    add("ConfigParams.xml", "GetConfigInfo", "GetConfigInfo");
+    add("download.xml", "GetDownload2D", "");
+    add("output.xml", "ServiceLogin", "ServiceLogin");
+    add("output.xml", "ServiceLogin", "GenerateApiKeyByDescription");
+    add("output.xml", "UserLogin", "UserLogin");
+    add("output.xml", "GetConfigInfo", "GetConfigInfo");
+    add("output.xml", "GetConfigInfo", "GetConfigParams");
+    add("output.xml", "GetDownload2D", "GetDownload2D");
 }
 
-void SoapFailureTest::missingTemplates()
+void SoapFailureTest::missingResources()
 {
+    QFETCH(QString, resource);
     QFETCH(QString, asked);
-    QFETCH(QString, missing);
+    QFETCH(QString, held);
     test::ScriptedService& service = m_fixture->service();
     service.setReply("ServiceLogin", ScriptedReply::never());
     Askers askers;
     QTRY_COMPARE(service.requests().size(), 1);
-    service.setReply(asked, ScriptedReply::result(asked, "text").held());
-    if (asked != missing) {
+    if (!held.isEmpty()) {
+        service.setReply(asked, ScriptedReply::result(asked, "text"));
+        service.setReply(held, ScriptedReply::result(held, "text").held());
         askers.send(asked);
         QTRY_COMPARE(service.heldCount(), 1);
     }
 
-    auto scope = std::make_unique<MissingResources>(MissingResources::GateStays);
-    if (asked == missing) {
+    setBundle(false);
+    setGate(resource != "output.xml");
+    if (held.isEmpty()) {
         askers.send(asked); // the box opens before it returns
     } else {
         service.releaseAll();
         QTRY_COMPARE(m_fixture->boxes().size(), 1);
     }
-    compareErrorBox(QString(":/3DPH/") + QTest::currentDataTag());
-    scope.reset();
-    compareNothingSent(askers);
-}
-
-void SoapFailureTest::missingGate_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("asked");
-    QTest::newRow("SetSessionID") << "ServiceLogin"
-                                  << "ServiceLogin";
-    QTest::newRow("GetAPIKey") << "GenerateApiKeyByDescription"
-                               << "ServiceLogin";
-    QTest::newRow("SetUserToken") << "UserLogin"
-                                  << "UserLogin";
-    QTest::newRow("ConfigData") << "GetConfigInfo"
-                                << "GetConfigInfo";
-    QTest::newRow("ConfigParamData") << "GetConfigParams"
-                                     << "GetConfigInfo";
-    QTest::newRow("DragAndDrop") << "GetDownload2D"
-                                 << "GetDownload2D";
-}
-
-void SoapFailureTest::missingGate()
-{
-    QFETCH(QString, operation);
-    QFETCH(QString, asked);
-    test::ScriptedService& service = m_fixture->service();
-    service.setReply("ServiceLogin", ScriptedReply::never());
-    Askers askers;
-    QTRY_COMPARE(service.requests().size(), 1);
-    service.setReply(asked, ScriptedReply::result(asked, "text"));
-    service.setReply(operation, ScriptedReply::result(operation, "text").held());
-    askers.send(asked);
-    QTRY_COMPARE(service.heldCount(), 1);
-
-    auto scope = std::make_unique<MissingResources>(MissingResources::GateMissing);
-    service.releaseAll();
-    QTRY_COMPARE(m_fixture->boxes().size(), 1);
-    compareErrorBox(":/3DPH/output.xml");
-    scope.reset();
+    compareErrorBox(":/3DPH/" + resource);
+    const int dataLines = held == "ServiceLogin" ? 1 : held == "GenerateApiKeyByDescription" ? 2 : 0;
+    QCOMPARE(m_fixture->warnings().debugLines().size(), dataLines); // before the gate
+    setBundle(true);
     compareNothingSent(askers);
 }
 
 void SoapFailureTest::replies_data()
 {
     QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QByteArray>("body"); // "OP" stands for the operation
     QTest::addColumn<QString>("result");
-    const auto add = [](const char* name, Answer answer, const char* result) {
-        QTest::newRow(name) << answer << QString(result);
+    const auto add = [](const char* name, Answer answer, const char* body, const char* result = "") {
+        QTest::newRow(name) << answer << QByteArray(body) << QString(result);
     };
-    add(
-        "fault", [](const QString&) { return ScriptedReply::fault("Invalid key"); }, "");
-    add(
-        "empty body", [](const QString&) { return ScriptedReply::xml({}); }, "");
-    add(
-        "no document", [](const QString&) { return ScriptedReply::status(503, "Try later"); }, "");
-    add(
-        "no result element", [](const QString&) { return ScriptedReply::xml("<r><b>x</b></r>"); }, "");
-    add(
-        "result element of another operation",
-        [](const QString&) { return ScriptedReply::xml("<r><OtherResult>x</OtherResult></r>"); }, "");
-    add(
-        "empty result element",
-        [](const QString& op) { return ScriptedReply::xml(bodyAround(op, "<Result/>")); }, "");
-    add(
-        "connection reset", [](const QString&) { return ScriptedReply::reset(); }, "");
-    add(
-        "cut behind the result",
-        [](const QString& op) {
-            return ScriptedReply::cutShort(bodyAround(op, "<Result>x</Result>").chopped(3), 3);
-        },
-        "");
-    add(
-        "malformed behind the result",
-        [](const QString& op) { return ScriptedReply::xml(bodyAround(op, "<Result>x</Result><b>")); }, "");
-    add(
-        "document type",
-        [](const QString& op) {
-            return ScriptedReply::xml("<!DOCTYPE r [<!ENTITY e 'x'>]>" +
-                                      bodyAround(op, "<Result>&e;</Result>"));
-        },
-        "");
-    add(
-        "two bytes to a character",
-        [](const QString& op) {
-            const QString body = QString::fromUtf8(bodyAround(op, "<Result>x</Result>"));
-            return ScriptedReply::xml(
-                QByteArray(reinterpret_cast<const char*>(body.utf16()), body.size() * 2));
-        },
-        "");
-    add(
-        "fault with a result",
-        [](const QString& op) {
-            return ScriptedReply::status(500, bodyAround(op, "<Fault>f</Fault><Result>x</Result>"));
-        },
-        "x");
-    add(
-        "byte order mark, declaration of another encoding",
-        [](const QString& op) {
-            return ScriptedReply::xml("\xEF\xBB\xBF<?xml version='1.0' encoding='iso-8859-1'?>" +
-                                      bodyAround(op, "<Result>\xC3\xA9</Result>"));
-        },
+    const Answer xml = &ScriptedReply::xml;
+    const Answer failed = [](const QByteArray& body) { return ScriptedReply::status(500, body); };
+    const Answer fault = [](const QByteArray& text) { return ScriptedReply::fault(text); };
+    const Answer elsewhere = [](const QByteArray& body) {
+        return ScriptedReply::status(307, body).withHeader("Location", "/elsewhere");
+    };
+    const Answer cut = [](const QByteArray& body) { return ScriptedReply::cutShort(body); };
+    const Answer reset = [](const QByteArray&) { return ScriptedReply::reset(); };
+    const Answer wide = [](const QByteArray& body) {
+        const QString text = QString::fromUtf8(body);
+        return ScriptedReply::xml(QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2));
+    };
+    add("fault", fault, "Invalid key");
+    add("empty body", xml, "");
+    add("redirection", elsewhere, ""); // is not followed
+    add("no document", failed, "Try later");
+    add("no result element", xml, "<r><b>x</b></r>");
+    add("result element of another operation", xml, "<r><OtherResult>x</OtherResult></r>");
+    add("empty result element", xml, "<r><OPResult/></r>");
+    add("connection reset", reset, "");
+    add("cut behind the result", cut, "<r><OPResult>x</OPResult></");
+    add("malformed behind the result", xml, "<r><OPResult>x</OPResult><b></r>");
+    add("document type", xml, "<!DOCTYPE r [<!ENTITY e 'x'>]><r><OPResult>&e;</OPResult></r>");
+    add("two bytes to a character", wide, "<r><OPResult>x</OPResult></r>");
+    add("fault with a result", failed, "<r><Fault>f</Fault><OPResult>x</OPResult></r>", "x");
+    add("byte order mark, declaration of another encoding", xml,
+        "\xEF\xBB\xBF<?xml version='1.0' encoding='iso-8859-1'?><r><OPResult>\xC3\xA9</OPResult></r>",
         "\xC3\xA9");
-    add(
-        "two results",
-        [](const QString& op) {
-            return ScriptedReply::xml(bodyAround(op, "<b><Result>first</Result></b><Result>2</Result>"));
-        },
-        "first");
-    add(
-        "escaped text",
-        [](const QString& op) { return ScriptedReply::xml(bodyAround(op, "<Result>a&lt;&#66;</Result>")); },
-        "a<B");
+    add("two results", xml, "<r><b><OPResult>first</OPResult></b><OPResult>2</OPResult></r>", "first");
+    add("escaped text", xml, "<r><OPResult>a&lt;&#66;</OPResult></r>", "a<B");
 }
 
 void SoapFailureTest::replies()
 {
     QFETCH(Answer, answer);
+    QFETCH(QByteArray, body);
     QFETCH(QString, result);
     test::ScriptedService& service = m_fixture->service();
-    for (const QString operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"}) {
-        service.setReply(operation, answer(operation));
+    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"}) {
+        service.setReply(operation, answer(QByteArray(body).replace("OP", operation)));
     }
 
     DataStorage session;
@@ -308,13 +263,32 @@ void SoapFailureTest::replies()
     session.UserLogin();
     QTRY_COMPARE(m_fixture->boxes().size(), 1);
     QCOMPARE(UserToken, result);
+    QVERIFY(service.requests("/elsewhere").isEmpty());
     QCOMPARE(m_fixture->boxes().first().text,
              QString(result.isEmpty() ? "Login is not successful." : "Login is successful."));
 }
 
-/// Key and token end up empty, and the user hears of a failed login alone.
-void SoapFailureTest::compareLoginAsUnanswered()
+void SoapFailureTest::noConnection_data()
 {
+    using test::TestCertificates;
+    QTest::addColumn<Identity>("identity");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("refused") << Identity(&TestCertificates::good) << true;
+    QTest::newRow("untrusted") << Identity(&TestCertificates::untrusted) << false;
+    QTest::newRow("expired") << Identity(&TestCertificates::expired) << false;
+    QTest::newRow("wrong name") << Identity(&TestCertificates::wrongName) << false;
+}
+
+/// Key and token end up empty, the user hears of a failed login alone, and nobody of the password.
+void SoapFailureTest::noConnection()
+{
+    QFETCH(Identity, identity);
+    QFETCH(bool, refused);
+    start(identity);
+    m_fixture->proxy().setRefusing(refused);
+    m_fixture->scriptSession("session", "key");
+    m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", "token"));
+
     DataStorage session;
     QTRY_COMPARE(ApiKey, QString());
     session.SetPassword("secret");
@@ -322,37 +296,10 @@ void SoapFailureTest::compareLoginAsUnanswered()
     QTRY_COMPARE(m_fixture->boxes().size(), 1);
     QCOMPARE(UserToken, QString());
     QCOMPARE(m_fixture->boxes().first().text, QString("Login is not successful."));
-}
-
-void SoapFailureTest::refusedConnection()
-{
-    m_fixture->proxy().setRefusing(true);
-    compareLoginAsUnanswered();
     QCOMPARE(m_fixture->proxy().destinations().size(), 3); // the key is asked for all the same
-}
-
-void SoapFailureTest::certificates_data()
-{
-    using test::TestCertificates;
-    QTest::addColumn<Identity>("identity");
-    QTest::newRow("untrusted") << Identity(&TestCertificates::untrusted);
-    QTest::newRow("expired") << Identity(&TestCertificates::expired);
-    QTest::newRow("wrong name") << Identity(&TestCertificates::wrongName);
-}
-
-void SoapFailureTest::certificates()
-{
-    QFETCH(Identity, identity);
-    m_fixture.reset();
-    m_fixture = std::make_unique<test::ServiceFixture>(identity);
-    ApiKey = "old key";
-    UserToken = "old token";
-    m_fixture->scriptSession("session", "key");
-    m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", "token"));
-
-    compareLoginAsUnanswered();
-    QVERIFY(m_fixture->service().connectionCount() > 0);
+    QCOMPARE(m_fixture->service().connectionCount() == 0, refused);
     QCOMPARE(m_fixture->service().byteCount(), 0);
+    QVERIFY(!m_fixture->warnings().debugLines().join(' ').contains("secret"));
 }
 
 /// A reply is ended when it outgrows what is read, and not only when all of it has been taken in.
@@ -361,8 +308,8 @@ void SoapFailureTest::endlessReply()
     m_fixture->scriptSession("session", "key");
     DataStorage session;
     QTRY_COMPARE(ApiKey, QString("key"));
-    const QByteArray body = bodyAround("UserLogin", "<Result>token</Result><b>" +
-                                                        QByteArray(MaximumXmlLength + 1000, 'x') + "</b>");
+    const QByteArray body =
+        "<r><UserLoginResult>token</UserLoginResult>" + QByteArray(MaximumXmlLength + 1000, 'x') + "</r>";
     m_fixture->service().setReply("UserLogin", ScriptedReply::xml(body).heldAfter(MaximumXmlLength + 1000));
     session.UserLogin();
     QTRY_COMPARE_WITH_TIMEOUT(m_fixture->boxes().size(), 1, 30000);

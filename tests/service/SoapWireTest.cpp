@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QGridLayout>
-#include <QResource>
 #include <QtTest>
 
 using test::ScriptedReply;
@@ -19,35 +18,27 @@ namespace
 const QString contentNamespace = "http://" + test::ScriptedCatalog::host() + "/Content";
 
 struct ExpectedRequest {
-    QString operation;
-    QString path;
-    QStringList parameters;
+    const char* operation;
+    const char* path;
+    const char* parameters; ///< parted by commas
 };
 
 /// Where the asker gives a value, "%1"; its key, "%2"; its token, "%3"; its drawing view, "%4".
 const QVector<ExpectedRequest> expectedRequests{
-    {"ServiceLogin",
-     "/ContentWS/contentws.asmx",
-     {"catalog=partharbor", "serviceuser=PlotvaneSU", "password=TulipWindowCanvas", "enduser=Plotvane",
-      "debug=false"}},
-    {"GenerateApiKeyByDescription",
-     "/ContentWS/adminws.asmx",
-     {"sessionId=%1", "description=Plotvane session ID1"}},
-    {"UserLogin", "/ContentWS/ExternalWS.asmx", {"apiKey=%2", "userId=%1", "password=%1"}},
-    {"SimpleSearchAcrossCatalogs",
-     "/ContentWS/ExternalWS.asmx",
-     {"apiKey=%2", "searchTerm=%1", "totalLimit=10000", "pageSize=5", "pageNumber=%1", "language=Base"}},
-    {"GetConfigInfo",
-     "/ContentWS/ExternalWS.asmx",
-     {"apiKey=%2", "supplierName=%1", "modelName=%1", "language=Base"}},
-    {"GetConfigParams",
-     "/ContentWS/ExternalWS.asmx",
-     {"apiKey=%2", "supplierName=%1", "modelName=%1", "configName=%1", "language=Base"}},
-    {"GetDownload2D",
-     "/ContentWS/ExternalWS.asmx",
-     {"apiKey=%2", "userToken=%3", "supplierName=%1", "modelName=%1", "configName=%1", "formatName=dwg",
-      "version=R2002", "units=cm", "inputParameters=", "drawingView=%4", "hiddenEdge=eHiddenEdge_UNSPECIFIED",
-      "tangentEdge=eTangentEdge_UNSPECIFIED", "zipOutput=false", "endUser=Plotvane"}},
+    {"ServiceLogin", "/ContentWS/contentws.asmx",
+     "catalog=partharbor,serviceuser=PlotvaneSU,password=TulipWindowCanvas,enduser=Plotvane,debug=false"},
+    {"GenerateApiKeyByDescription", "/ContentWS/adminws.asmx",
+     "sessionId=%1,description=Plotvane session ID1"},
+    {"UserLogin", "/ContentWS/ExternalWS.asmx", "apiKey=%2,userId=%1,password=%1"},
+    {"SimpleSearchAcrossCatalogs", "/ContentWS/ExternalWS.asmx",
+     "apiKey=%2,searchTerm=%1,totalLimit=10000,pageSize=5,pageNumber=%1,language=Base"},
+    {"GetConfigInfo", "/ContentWS/ExternalWS.asmx", "apiKey=%2,supplierName=%1,modelName=%1,language=Base"},
+    {"GetConfigParams", "/ContentWS/ExternalWS.asmx",
+     "apiKey=%2,supplierName=%1,modelName=%1,configName=%1,language=Base"},
+    {"GetDownload2D", "/ContentWS/ExternalWS.asmx",
+     "apiKey=%2,userToken=%3,supplierName=%1,modelName=%1,configName=%1,formatName=dwg,version=R2002,"
+     "units=cm,inputParameters=,drawingView=%4,hiddenEdge=eHiddenEdge_UNSPECIFIED,"
+     "tangentEdge=eTangentEdge_UNSPECIFIED,zipOutput=false,endUser=Plotvane"},
 };
 
 /// Request line and the headers that the senders set, as they arrived and in that order: the network layer
@@ -151,11 +142,11 @@ void SoapWireTest::requests()
         const ExpectedRequest& expected = expectedRequests.at(i);
         const test::RecordedRequest& request = service.requests().at(i);
         QCOMPARE(headOf(request),
-                 (QStringList{"POST " + expected.path, "Content-Type: text/xml; charset=utf-8",
+                 (QStringList{QString("POST ") + expected.path, "Content-Type: text/xml; charset=utf-8",
                               "SOAPAction: " + contentNamespace + '/' + expected.operation,
                               QString("Content-Length: %1").arg(request.body.size())}));
 
-        QStringList parameters = expected.parameters;
+        QStringList parameters = QString(expected.parameters).split(',');
         parameters.replaceInStrings("=%1", '=' + value);
         parameters.replaceInStrings("=%2", '=' + key);
         parameters.replaceInStrings("=%3", '=' + token);
@@ -165,73 +156,51 @@ void SoapWireTest::requests()
         QCOMPARE(envelope.version, QString("1.0"));
         QCOMPARE(envelope.encoding, QString("utf-8"));
         QCOMPARE(envelope.prefixes.size(), 3);
-        QCOMPARE(envelope.operation, expected.operation);
+        QCOMPARE(envelope.operation, QString(expected.operation));
         QCOMPARE(envelope.operationNamespace, contentNamespace);
         QCOMPARE(envelope.parameters, parameters);
         if (!value.contains('\n')) {
             QCOMPARE(test::layoutFault(request.body, 1, "\n"), QString());
         }
     }
+    // The bootstrap's two replies; nothing else is written, least of all a password or token.
+    QCOMPARE(m_fixture->warnings().debugLines().size(), 2);
 }
 
 void SoapWireTest::templates_data()
 {
     QTest::addColumn<QString>("operation");
-    QTest::addColumn<int>("sizeWithoutHost");
-    QTest::addColumn<QStringList>("parameters");
-    QTest::newRow("TokenXMLFile.xml") << "ServiceLogin" << 514 << expectedRequests.at(0).parameters;
-    QTest::newRow("APIKeyXML.xml") << "GenerateApiKeyByDescription" << 445
-                                   << QStringList{"sessionId=string", "description=Plotvane session ID1"};
-    QTest::newRow("Login.xml") << "UserLogin" << 414
-                               << QStringList{"apiKey=string", "userId=string", "password=string"};
-    QTest::newRow("Searchcatalog.xml")
-        << "SimpleSearchAcrossCatalogs" << 558
-        << QStringList{"apiKey=string", "searchTerm=string", "totalLimit=10000",
-                       "pageSize=5",    "pageNumber=int",    "language=Base"};
-    QTest::newRow("ModelDetail.xml") << "GetModelDetail" << 471
-                                     << QStringList{"apiKey=string", "supplierName=string",
-                                                    "modelName=string", "language=Base"};
-    QTest::newRow("ConfigInfo.xml") << "GetConfigInfo" << 469
-                                    << QStringList{"apiKey=string", "supplierName=string", "modelName=string",
-                                                   "language=Base"};
-    QTest::newRow("ConfigParams.xml")
-        << "GetConfigParams" << 512
-        << QStringList{"apiKey=string", "supplierName=string", "modelName=string", "configName=string",
-                       "language=Base"};
-    QTest::newRow("download.xml") << "GetDownload2D" << 898
-                                  << QStringList{"apiKey=string",
-                                                 "userToken=string",
-                                                 "supplierName=string",
-                                                 "modelName=string",
-                                                 "configName=string",
-                                                 "formatName=dwg",
-                                                 "version=string",
-                                                 "units=string",
-                                                 "inputParameters=\n        \n      ",
-                                                 "drawingView=string",
-                                                 "hiddenEdge=eHiddenEdge_UNSPECIFIED",
-                                                 "tangentEdge=eTangentEdge_UNSPECIFIED",
-                                                 "zipOutput=false",
-                                                 "endUser=Plotvane"};
+    QTest::addColumn<QString>("parameters");
+    const auto add = [](const char* name, const char* operation, const char* parameters) {
+        QTest::newRow(name) << QString(operation) << QString(parameters);
+    };
+    add("TokenXMLFile.xml", "ServiceLogin", expectedRequests.at(0).parameters);
+    add("APIKeyXML.xml", "GenerateApiKeyByDescription", "sessionId=string,description=Plotvane session ID1");
+    add("Login.xml", "UserLogin", "apiKey=string,userId=string,password=string");
+    add("Searchcatalog.xml", "SimpleSearchAcrossCatalogs",
+        "apiKey=string,searchTerm=string,totalLimit=10000,pageSize=5,pageNumber=int,language=Base");
+    add("ModelDetail.xml", "GetModelDetail",
+        "apiKey=string,supplierName=string,modelName=string,language=Base");
+    add("ConfigInfo.xml", "GetConfigInfo",
+        "apiKey=string,supplierName=string,modelName=string,language=Base");
+    add("ConfigParams.xml", "GetConfigParams",
+        "apiKey=string,supplierName=string,modelName=string,configName=string,language=Base");
+    add("download.xml", "GetDownload2D",
+        "apiKey=string,userToken=string,supplierName=string,modelName=string,configName=string,"
+        "formatName=dwg,version=string,units=string,inputParameters=\n        \n      ,drawingView=string,"
+        "hiddenEdge=eHiddenEdge_UNSPECIFIED,tangentEdge=eTangentEdge_UNSPECIFIED,zipOutput=false,"
+        "endUser=Plotvane");
 }
 
+/// Their exact sizes and line ends are compared with those of the bundle in the add-in.
 void SoapWireTest::templates()
 {
     QFETCH(QString, operation);
-    QFETCH(int, sizeWithoutHost);
-    QFETCH(QStringList, parameters);
-    const QString path = QString(":/3DPH/") + QTest::currentDataTag();
-    QFile file(path);
+    QFETCH(QString, parameters);
+    QFile file(QString(":/3DPH/") + QTest::currentDataTag());
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
-
-    QCOMPARE(bytes.size(), sizeWithoutHost + test::ScriptedCatalog::host().size());
-    QCOMPARE(QResource(path).compressionAlgorithm(), QResource::NoCompression);
-    QVERIFY(bytes.startsWith("<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n<soap:Envelope "));
-    QVERIFY(bytes.endsWith("\r\n</soap:Envelope>"));
-    QCOMPARE(bytes.count('\n'), bytes.count("\r\n"));
     QCOMPARE(test::layoutFault(bytes, 2, "\r\n"), QString());
-
     const auto envelope = test::Envelope::read(bytes);
     QCOMPARE(envelope.fault, QString());
     QCOMPARE(envelope.prefixes,
@@ -240,7 +209,7 @@ void SoapWireTest::templates()
                                      {"soap", "http://schemas.xmlsoap.org/soap/envelope/"}}));
     QCOMPARE(envelope.operation, operation);
     QCOMPARE(envelope.operationNamespace, contentNamespace);
-    QCOMPARE(envelope.parameters, parameters);
+    QCOMPARE(envelope.parameters, parameters.split(','));
 }
 
 QTEST_MAIN(SoapWireTest)
