@@ -45,6 +45,7 @@ private slots:
 
     void changedRequestsAreRefused_data();
     void changedRequestsAreRefused();
+    void bodyNeedsALength();
     void hostileConnectionsDoNoHarm_data();
     void hostileConnectionsDoNoHarm();
 
@@ -85,6 +86,16 @@ void CatalogStrictnessTest::changedRequestsAreRefused()
     const QString fault = answer.text("faultstring");
     QVERIFY2(fault.contains(cause), qPrintable(fault));
     QVERIFY2(!fault.contains("Service & <Password>"), qPrintable(fault));
+}
+
+/// A body can come without one, in chunks.
+void CatalogStrictnessTest::bodyNeedsALength()
+{
+    const SoapRequest right = m_fixture->request("ServiceLogin");
+    QByteArray http = right.toHttp().chopped(right.body.size());
+    http.replace("Content-Length: " + QByteArray::number(right.body.size()), "Transfer-Encoding: chunked");
+    http += QByteArray::number(right.body.size(), 16) + "\r\n" + right.body + "\r\n0\r\n\r\n";
+    QVERIFY(m_fixture->client().exchange(http).contains("'content-length' is missing"));
 }
 
 /// Takes one element out, doubles, moves, renames it, gives it an attribute or a child, and changes its text.
