@@ -29,7 +29,8 @@ bool trust(const QString& caFile)
     return added;
 }
 
-/// Off the screen the toolkit's own font is larger than a desktop's, and a narrow pane looks worse than it is.
+/// Off the screen the toolkit's own font is larger than a desktop's, and a narrow pane looks worse than it
+/// is.
 void useDesktopFontSize()
 {
     if (QGuiApplication::platformName() != "offscreen")
