@@ -83,9 +83,10 @@ QPixmap pictureFromBytes(const QByteArray& bytes)
 
     // These formats tell their size before anything is decoded.
     const QSize told = reader.size();
-    const QSize size(told.width(), qAbs(told.height())); // of a BMP that begins at its top it is negative
-    if (size.isEmpty() || static_cast<qint64>(size.width()) * size.height() > MaximumPixels)
+    const qint64 height = qAbs<qint64>(told.height()); // negative for a BMP that begins at its top
+    if (told.width() <= 0 || height == 0 || told.width() * height > MaximumPixels)
         return QPixmap();
+    const QSize size(told.width(), static_cast<int>(height));
     if (size.boundedTo(Kept) != size)
         reader.setScaledSize(size.scaled(Kept, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     return QPixmap::fromImage(reader.read());
