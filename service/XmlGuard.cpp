@@ -10,9 +10,9 @@ namespace
 {
 
 constexpr int MaximumDepth = 200;
-constexpr std::ptrdiff_t MaximumNodes = 500 * 1000;
+constexpr std::ptrdiff_t MaximumNodes = 500'000;
 /// Any text may hold that many nodes; a longer one has to be as long as real replies are for theirs.
-constexpr std::ptrdiff_t NodesAtAnyLength = 20 * 1000;
+constexpr std::ptrdiff_t NodesAtAnyLength = 20'000;
 constexpr std::ptrdiff_t CharactersPerNode = 8;
 
 /// Goes over the markup alone, once and without recursion, and counts what it will become. Malformed text may
