@@ -13,7 +13,3 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
     emit release();
 }
-
-void ClickableLabel::mouseDoubleClickEvent(QMouseEvent* /*event*/)
-{
-}

@@ -2,8 +2,7 @@
 
 #include <QLabel>
 
-/// A label that tells of mouse presses and releases, of any button. The second press of a double click is
-/// none of its own: it may stand where the user has double-clicked something else.
+/// A label that tells of mouse presses and releases, of any button.
 class ClickableLabel : public QLabel
 {
     Q_OBJECT
@@ -19,5 +18,4 @@ signals:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
 };

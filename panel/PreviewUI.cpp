@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QEvent>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
@@ -154,6 +155,7 @@ void PreviewUI::buildPreviewSection()
     m_preview_label = new ClickableLabel(frame, Qt::WindowFlags());
     m_preview_label->setMinimumHeight(200);
     m_preview_label->setStyleSheet(QLatin1String("margin: 0px;")); // the frame's would distort the picture
+    m_preview_label->installEventFilter(this);
     m_preview_label->setAccessibleName(QLatin1String("Preview: click to download the drawing"));
     grid->addWidget(m_preview_label, 0, 0, 1, ColumnSpan);
 
@@ -351,4 +353,11 @@ void PreviewUI::dropDownload()
 
 void PreviewUI::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
+}
+
+bool PreviewUI::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        watched->removeEventFilter(this); // from here on double clicks are the preview's own
+    return event->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(watched, event);
 }

@@ -78,6 +78,8 @@ public slots:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Keeps from the preview the second press of a double click that opened the page.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setUpBackButton();

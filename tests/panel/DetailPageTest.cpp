@@ -1,3 +1,4 @@
+#include "panel/ClickableLabel.h"
 #include "panel/DrawingViews.h"
 #include "panel/InputParameters.h"
 #include "panel/PreviewUI.h"
@@ -40,6 +41,7 @@ private slots:
     void longTextsAreNotCutOff_data();
     void longTextsAreNotCutOff();
     void releasesEndAtThePage();
+    void doubleClickOnAThumbnailOnlyOpensThePage();
 
 private:
     QTreeWidget* sections() const { return m_panel->shown<QTreeWidget>("preview_page"); }
@@ -257,6 +259,24 @@ void DetailPageTest::releasesEndAtThePage()
                         Qt::NoModifier);
     QCoreApplication::sendEvent(m_panel->shown<PreviewUI>(), &release);
     QVERIFY(release.isAccepted());
+}
+
+/// Its second press meets the preview, which may stand in the thumbnail's place by then.
+void DetailPageTest::doubleClickOnAThumbnailOnlyOpensThePage()
+{
+    m_panel->openFirstPart();
+    auto* preview = m_panel->shown<ClickableLabel>();
+    const QSignalSpy clicks(preview, SIGNAL(clicked()));
+    const auto secondPress = [preview] {
+        QMouseEvent press(QEvent::MouseButtonDblClick, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(preview, &press);
+    };
+    secondPress();
+    QCOMPARE(clicks.size(), 0);
+    m_panel->clickPreview();
+    secondPress(); // of its own
+    QCOMPARE(clicks.size(), 2);
 }
 
 QTEST_MAIN(DetailPageTest)

@@ -144,6 +144,13 @@ void LogInPageTest::linksKeepTheirBackslash()
     link->setFocus(Qt::TabFocusReason);
     QTest::keyClick(link, Qt::Key_Return);
     QCOMPARE(browser.opened.size(), 2);
+
+    // Selected text cannot be dragged: the event loop would run under the label's hands.
+    link->setSelection(0, 6);
+    QTest::mousePress(link, Qt::LeftButton, Qt::NoModifier, QPoint(20, link->height() / 2));
+    QVERIFY(!link->hasSelectedText());
+    QTest::mouseRelease(link, Qt::LeftButton, Qt::NoModifier, QPoint(20, link->height() / 2));
+    QCOMPARE(browser.opened.size(), 3);
 }
 
 void LogInPageTest::labelTellsOfEveryButton()
@@ -161,12 +168,6 @@ void LogInPageTest::labelTellsOfEveryButton()
         QCOMPARE(clicks.size(), presses);
         QCOMPARE(releases.size(), presses);
     }
-
-    // The first press of this one was for what stood here before.
-    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
-                       Qt::NoModifier);
-    QCoreApplication::sendEvent(&label, &second);
-    QCOMPARE(clicks.size(), presses);
 }
 
 QTEST_MAIN(LogInPageTest)

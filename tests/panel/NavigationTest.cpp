@@ -1,3 +1,4 @@
+#include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PartHarbor_2D.h"
 #include "service/SessionValues.h"
 #include "tests/panel/PanelFixture.h"
@@ -91,8 +92,15 @@ void NavigationTest::roundTripKeepsItsPages()
         }
     };
     remember();
+    auto* layout = m_panel->container()->layout();
+    QWidget* const mainPanel = m_panel->shown<QWidget>("PartHarbor_2DMain");
+    const int place = layout->indexOf(mainPanel);
+    const int count = layout->count();
     m_panel->showResults();
     remember();
+    QCOMPARE(layout->indexOf(mainPanel), -1); // replaced, while later pages are appended
+    QCOMPARE(layout->indexOf(pages.last()), place);
+    QCOMPARE(layout->count(), count);
     m_panel->openPart(0);
     remember();
     QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
@@ -266,6 +274,21 @@ void NavigationTest::panelSwallowsItsEvents()
     QVERIFY(QCoreApplication::sendEvent(panel, &press));
     QVERIFY(press.isAccepted());
     QCOMPARE(clicks.size(), 0);
+
+    // The handler that no press reaches tells of the left button alone.
+    class Panel : public PV3DPartHarbor_2D
+    {
+    public:
+        using PV3DPartHarbor_2D::mousePressEvent;
+        using PV3DPartHarbor_2D::PV3DPartHarbor_2D;
+    };
+    Panel reachable(&m_panel->host(), nullptr);
+    const QSignalSpy told(&reachable, SIGNAL(clicked()));
+    reachable.mousePressEvent(&press);
+    QMouseEvent right(QEvent::MouseButtonPress, QPointF(1, 1), Qt::RightButton, Qt::RightButton,
+                      Qt::NoModifier);
+    reachable.mousePressEvent(&right);
+    QCOMPARE(told.size(), 1);
 }
 
 QTEST_MAIN(NavigationTest)

@@ -30,6 +30,12 @@ QNetworkCookie cookie(const QByteArray& name, const QDateTime& expiry = {})
     return cookie;
 }
 
+// Their numbers are fixed as well as their names.
+static_assert(CookieJar::AcceptAlways == 0 && CookieJar::AcceptNever == 1 &&
+              CookieJar::AcceptOnlyFromSitesNavigatedTo == 2);
+static_assert(CookieJar::KeepUntilExpire == 0 && CookieJar::KeepUntilExit == 1 &&
+              CookieJar::KeepUntilTimeLimit == 2);
+
 /// Shows what the toolkit's jar keeps for its heirs.
 class OpenJar : public CookieJar
 {
