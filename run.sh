@@ -27,4 +27,4 @@ if has_option --tour "$@" || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
     has_option --tour "$@" || set -- "$@" --tour out/tour
 fi
-exec "$build/devhost/devhost" "$@"
+exec "$build/dev/host/devhost" "$@"

@@ -35,10 +35,9 @@ constexpr HelpLanguage HelpLanguages[] = {
 /// @return the language's name in help addresses; empty for a language without help.
 QString helpLanguageName(pvLanguage_e language)
 {
-    for (const HelpLanguage& row : HelpLanguages) {
+    for (const HelpLanguage& row : HelpLanguages)
         if (row.hostValue == language)
             return QLatin1String(row.name);
-    }
     return QString();
 }
 

@@ -41,10 +41,9 @@ QStringList drawingViewTexts()
 
 QString drawingViewWireValue(const QString& text)
 {
-    for (const DrawingView& view : Views) {
+    for (const DrawingView& view : Views)
         if (text == QLatin1String(view.text))
             return QLatin1String(view.wireValue);
-    }
     return text;
 }
 
@@ -57,9 +56,8 @@ QString drawingViewToRequest(const QString& view)
 
 QString unsupportedViewMessage(const QString& view)
 {
-    for (const DrawingView& row : Views) {
+    for (const DrawingView& row : Views)
         if (view == QLatin1String(row.messageText))
             return QObject::tr(row.unsupported);
-    }
     return QString();
 }

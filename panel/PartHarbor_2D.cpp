@@ -194,10 +194,9 @@ void PartHarbor_2D::relabel()
 {
     for (const QPushButton* button :
          {m_form->pushButton1, m_form->pushButton6, m_form->pushButton2, m_form->pushButton3,
-          m_form->pushButton4, m_form->pushButton5, m_form->pushButton7}) {
+          m_form->pushButton4, m_form->pushButton5, m_form->pushButton7})
         if (m_pageNumber == button->text())
             return;
-    }
     m_form->pushButton3->setText(QLatin1String("..."));
     m_form->pushButton3->setEnabled(false);
     m_form->pushButton4->setText(m_pageNumber);

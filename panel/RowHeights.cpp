@@ -40,10 +40,9 @@ void RowHeights::fit()
 {
     constexpr int gridLine = 1;
     int height = 0;
-    for (int row = 0; row < m_table->rowCount(); ++row) {
+    for (int row = 0; row < m_table->rowCount(); ++row)
         if (const QWidget* cellWidget = m_table->cellWidget(row, 0))
             height = qMax(height, heightOf(cellWidget) + gridLine);
-    }
     QHeaderView* header = m_table->verticalHeader();
     if (height == header->minimumSectionSize())
         return;

@@ -1,9 +1,9 @@
 #include "panel/TableItem.h"
 
 #include "panel/PartHarbor_2D.h"
-#include "panel/PictureRequest.h"
 #include "panel/PreviewUI.h"
 #include "panel/ShownText.h"
+#include "service/PictureRequest.h"
 #include "ui_TableItem.h"
 
 #include <QGridLayout>

@@ -46,9 +46,8 @@ CookieJar::CookieJar(QObject* parent) : QNetworkCookieJar(parent)
 
 CookieJar::~CookieJar()
 {
-    if (m_keepPolicy == KeepUntilExit) {
+    if (m_keepPolicy == KeepUntilExit)
         clear();
-    }
 }
 
 CookieJar::AcceptPolicy CookieJar::acceptPolicy() const
@@ -114,40 +113,34 @@ void CookieJar::setAllowForSessionCookies(const QStringList& hosts)
 bool CookieJar::setCookiesFromUrl(const QList<QNetworkCookie>& cookies, const QUrl& url)
 {
     ensureLoaded();
-    if (!mayStore(url.host(QUrl::FullyDecoded))) {
+    if (!mayStore(url.host(QUrl::FullyDecoded)))
         return false;
-    }
     const QDateTime limit = QDateTime::currentDateTimeUtc().addDays(timeLimitInDays);
     bool added = false;
     for (QNetworkCookie cookie : cookies) {
         if (m_keepPolicy == KeepUntilTimeLimit && !cookie.isSessionCookie() &&
-            cookie.expirationDate() > limit) {
+            cookie.expirationDate() > limit)
             cookie.setExpirationDate(limit);
-        }
         added |= addCookie(cookie, url);
     }
-    if (added) {
+    if (added)
         emit cookiesChanged();
-    }
     return added;
 }
 
 bool CookieJar::mayStore(const QString& host) const
 {
-    if (m_acceptPolicy == AcceptNever) {
+    if (m_acceptPolicy == AcceptNever)
         return contains(m_allowedCookies, host) || contains(m_allowForSessionCookies, host);
-    }
     return !contains(m_blockedCookies, host);
 }
 
 bool CookieJar::addCookie(const QNetworkCookie& cookie, const QUrl& url)
 {
-    if (QNetworkCookieJar::setCookiesFromUrl({cookie}, url)) {
+    if (QNetworkCookieJar::setCookiesFromUrl({cookie}, url))
         return true;
-    }
-    if (m_acceptPolicy != AcceptAlways) {
+    if (m_acceptPolicy != AcceptAlways)
         return false;
-    }
     setAllCookies(allCookies() << cookie);
     return true;
 }
@@ -159,9 +152,8 @@ bool CookieJar::load() const
 
 void CookieJar::ensureLoaded() const
 {
-    if (!m_loaded) {
+    if (!m_loaded)
         load();
-    }
 }
 
 void CookieJar::save()
@@ -176,9 +168,8 @@ void CookieJar::purgeExpired()
         std::remove_if(cookies.begin(), cookies.end(), [&now](const QNetworkCookie& cookie) {
             return !cookie.isSessionCookie() && cookie.expirationDate() < now;
         });
-    if (firstExpired == cookies.end()) {
+    if (firstExpired == cookies.end())
         return;
-    }
     cookies.erase(firstExpired, cookies.end());
     setAllCookies(cookies);
     emit cookiesChanged();
@@ -196,18 +187,16 @@ void CookieJar::loadSettings()
     settings.beginGroup(QLatin1String("cookies"));
     m_acceptPolicy = readKey(settings, "acceptCookies", AcceptOnlyFromSitesNavigatedTo);
     m_keepPolicy = readKey(settings, "keepCookiesUntil", KeepUntilExpire);
-    if (m_keepPolicy == KeepUntilExit) {
+    if (m_keepPolicy == KeepUntilExit)
         setAllCookies({});
-    }
     emit cookiesChanged();
 }
 
 QDataStream& operator<<(QDataStream& stream, const QList<QNetworkCookie>& cookies)
 {
     stream << streamVersion << static_cast<quint32>(cookies.size());
-    for (const QNetworkCookie& cookie : cookies) {
+    for (const QNetworkCookie& cookie : cookies)
         stream << cookie.toRawForm();
-    }
     return stream;
 }
 
@@ -216,9 +205,8 @@ QDataStream& operator>>(QDataStream& stream, QList<QNetworkCookie>& cookies)
     cookies.clear();
     quint32 version = 0;
     stream >> version;
-    if (version != streamVersion) {
+    if (version != streamVersion)
         return stream;
-    }
     quint32 count = 0;
     stream >> count;
     // The count is the writer's word only: nothing is reserved for it, and the end of the stream ends the
@@ -227,9 +215,8 @@ QDataStream& operator>>(QDataStream& stream, QList<QNetworkCookie>& cookies)
         QByteArray entry;
         stream >> entry;
         const QList<QNetworkCookie> parsed = QNetworkCookie::parseCookies(entry);
-        if (parsed.isEmpty() && !entry.isEmpty()) {
+        if (parsed.isEmpty() && !entry.isEmpty())
             qWarning() << "CookieJar: Unable to parse saved cookie:" << entry;
-        }
         cookies += parsed;
     }
     return stream;

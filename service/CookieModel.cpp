@@ -92,9 +92,8 @@ int CookieModel::columnCount(const QModelIndex& parent) const
 
 QVariant CookieModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= rowCount()) {
+    if (!index.isValid() || index.row() >= rowCount())
         return {};
-    }
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -108,12 +107,10 @@ QVariant CookieModel::data(const QModelIndex& index, int role) const
 
 QVariant CookieModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation == Qt::Vertical) {
+    if (orientation == Qt::Vertical)
         return QAbstractTableModel::headerData(section, orientation, role);
-    }
-    if (section < 0 || section >= columns) {
+    if (section < 0 || section >= columns)
         return {};
-    }
     switch (role) {
     case Qt::DisplayRole:
         return title(section);
@@ -127,9 +124,8 @@ QVariant CookieModel::headerData(int section, Qt::Orientation orientation, int r
 bool CookieModel::removeRows(int row, int count, const QModelIndex& parent)
 {
     const int rows = rowCount(parent);
-    if (row < 0 || count < 1 || row >= rows || count > rows - row) {
+    if (row < 0 || count < 1 || row >= rows || count > rows - row)
         return false;
-    }
     beginRemoveRows(parent, row, row + count - 1);
     QList<QNetworkCookie> cookies = m_cookieJar->allCookies();
     cookies.erase(cookies.begin() + row, cookies.begin() + row + count);

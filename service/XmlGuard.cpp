@@ -23,18 +23,17 @@ public:
     explicit MarkupScan(QStringView text)
         : m_next(text.begin()),
           m_end(text.end()),
-          m_bearableNodes(
+          m_maximumNodes(
               std::min<std::ptrdiff_t>(MaximumNodes, NodesAtAnyLength + text.size() / CharactersPerNode)),
           m_nodes(entityReferences(text))
     {
     }
 
-    bool isBearable()
+    bool isWithinLimits()
     {
-        while (readText()) {
-            if (!readMarkup() || m_depth > MaximumDepth || m_nodes > m_bearableNodes)
+        while (readText())
+            if (!readMarkup() || m_depth > MaximumDepth || m_nodes > m_maximumNodes)
                 return false;
-        }
         return true;
     }
 
@@ -51,7 +50,7 @@ private:
 
     const QChar* m_next;
     const QChar* m_end;
-    std::ptrdiff_t m_bearableNodes;
+    std::ptrdiff_t m_maximumNodes;
     std::ptrdiff_t m_nodes;
     int m_depth = 0;
 };
@@ -59,7 +58,7 @@ private:
 /// Each may be a node of its own. A text that is too short for too many nodes needs no count.
 std::ptrdiff_t MarkupScan::entityReferences(QStringView text) const
 {
-    return text.size() > m_bearableNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
+    return text.size() > m_maximumNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
 }
 
 /// Up to and with the next "<". @return false at the end.
@@ -154,7 +153,7 @@ void MarkupScan::skipPast(QChar end)
 
 bool parseXml(const QString& text, QDomDocument* document)
 {
-    if (text.size() <= MaximumXmlLength && MarkupScan(text).isBearable() && document->setContent(text))
+    if (text.size() <= MaximumXmlLength && MarkupScan(text).isWithinLimits() && document->setContent(text))
         return true;
     document->clear(); // of what stood before the place where the parser gave up
     return false;

@@ -2,10 +2,10 @@
 #include "addin/DockWidgetApplication.h"
 #include "addin/EntryPoints.h"
 #include "common/HostString.h"
-#include "devhost/model/HostApplication.h"
+#include "dev/host/model/HostApplication.h"
 #include "panel/DownloadedFile.h"
 #include "service/SessionValues.h"
-#include "tests/devhost/ScriptedHostView.h"
+#include "tests/host/ScriptedHostView.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/ScriptedCatalog.h"
 

@@ -14,7 +14,7 @@ using test::ScriptedReply;
 namespace
 {
 
-// What a user sees of the add-in, in the order of effectsOfARoad().
+// What a user sees of the add-in, in the order of effectsOfAScenario().
 const QString command = "command toggles the pane";
 const QString lightIcon = "light icon";
 const QString menuEntry = "menu entry";
@@ -86,8 +86,8 @@ const Failure failures[] = {
 Q_DECLARE_METATYPE(devhost::Outcome)
 Q_DECLARE_METATYPE(pvResult)
 
-/// A host in which one SDK call fails: the whole road from connect to disconnect, in which only what needs
-/// that call is missing.
+/// A host in which one SDK call fails: the whole scenario from connect to disconnect, in which only what
+/// needs that call is missing.
 class FailingHostTest : public QObject
 {
     Q_OBJECT
@@ -104,8 +104,8 @@ private slots:
 
 private:
     void prepareCatalog();
-    /// Plays the road. @return what of the effects was seen.
-    QStringList effectsOfARoad();
+    /// Plays the scenario. @return what of the effects was seen.
+    QStringList effectsOfAScenario();
     void lookAtRegistrations();
     void askForHelp();
     void logIn();
@@ -154,7 +154,7 @@ void FailingHostTest::prepareCatalog()
     service.setReply("/pictures/part.png", test::pictureReply(test::pngPicture({8, 8})));
 }
 
-QStringList FailingHostTest::effectsOfARoad()
+QStringList FailingHostTest::effectsOfAScenario()
 {
     m_addIn->connect();
     note(toggles() && toggles(), command);
@@ -227,7 +227,7 @@ void FailingHostTest::placeABlock()
     QVERIFY(test::waitUntil(
         [this] { return m_addIn->catalog().service().requests("GetConfigParams").size() == 1; }));
     QTest::mouseClick(m_addIn->shown("ClickableLabel"), Qt::LeftButton);
-    // The last call of the road that the add-in makes in every host. The prompt follows in the same turn.
+    // The last call of the scenario that the add-in makes in every host. The prompt follows in the same turn.
     QVERIFY(
         test::waitUntil([this] { return m_addIn->host().journal().names().contains("GetCommandMessage"); }));
     note(!m_addIn->view().prompts().empty(), prompt);
@@ -236,7 +236,7 @@ void FailingHostTest::placeABlock()
 
 void FailingHostTest::everyCallIsInTheTable()
 {
-    QCOMPARE(effectsOfARoad(), all);
+    QCOMPARE(effectsOfAScenario(), all);
     QStringList called = m_addIn->host().journal().names();
     QStringList inTable;
     for (const Failure& failure : failures)
@@ -274,7 +274,7 @@ void FailingHostTest::oneCallFails()
     QStringList expected = all;
     for (const QString& effect : lost)
         expected.removeAll(effect);
-    QCOMPARE(effectsOfARoad(), expected);
+    QCOMPARE(effectsOfAScenario(), expected);
 }
 
 void FailingHostTest::theHandleNamesNoWidget_data()

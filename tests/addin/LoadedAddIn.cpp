@@ -66,10 +66,9 @@ QStringList LoadedAddIn::takeCalls()
 QStringList LoadedAddIn::registrations() const
 {
     QStringList lines;
-    for (const auto& command : m_host->commands().objects()) {
+    for (const auto& command : m_host->commands().objects())
         if (command->appID() == addInIdentifier)
             lines.append("command " + command->name());
-    }
     for (const auto& userCommand : m_host->userCommands().objects())
         lines.append("user command " + userCommand->id());
     for (const auto& menu : m_host->menus().objects()) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "devhost/model/AddInLibrary.h"
-#include "devhost/model/HostApplication.h"
-#include "tests/devhost/ScriptedHostView.h"
+#include "dev/host/model/AddInLibrary.h"
+#include "dev/host/model/HostApplication.h"
+#include "tests/host/ScriptedHostView.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"
 #include "tests/support/ScriptedCatalog.h"

@@ -110,10 +110,9 @@ void ResourceBundleTest::holdsTheSourceFolderAndNothingElse()
                                "3DPH_spanish.qm",
                                "3DPH_turkish.qm"};
     QSet<QString> found;
-    for (const QString& name : filesBelow(":/3DPH")) {
+    for (const QString& name : filesBelow(":/3DPH"))
         if (!name.endsWith(".xml")) // whose names stand with their sizes
             found.insert(name);
-    }
     QCOMPARE(found, others);
     for (const char* sheet : {"PV3DPartHarbor.qss", "PV3DPartHarborDarkMode.qss"})
         QVERIFY(!QFile::exists(QString(":/Images/Resources/") + sheet));

@@ -149,10 +149,9 @@ void TranslationsTest::everyFileTranslatesEveryMessage()
 
     const QDomNodeList elements = document.elementsByTagName("message");
     QCOMPARE(elements.count(), 31);
-    for (auto context = messages.cbegin(); context != messages.cend(); ++context) {
+    for (auto context = messages.cbegin(); context != messages.cend(); ++context)
         for (const QString& text : context.value())
             QVERIFY2(!translator.translate(context.key().toUtf8(), text.toUtf8()).isEmpty(), text.toUtf8());
-    }
     for (int i = 0; i < elements.count(); ++i) {
         const QDomElement message = elements.item(i).toElement();
         QCOMPARE(elementNames(message), QStringList({"source", "translation"})); // no comments

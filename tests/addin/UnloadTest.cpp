@@ -1,7 +1,7 @@
-#include "devhost/model/AddInLibrary.h"
-#include "devhost/model/DraftingInterface.h"
-#include "devhost/model/HostApplication.h"
-#include "tests/devhost/ScriptedHostView.h"
+#include "dev/host/model/AddInLibrary.h"
+#include "dev/host/model/DraftingInterface.h"
+#include "dev/host/model/HostApplication.h"
+#include "tests/host/ScriptedHostView.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "panel/ClickableLabel.h"
 #include "panel/DrawingViews.h"
-#include "panel/InputParameters.h"
 #include "panel/PreviewUI.h"
+#include "service/InputParameters.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
 

@@ -76,10 +76,9 @@ QStringList PanelFixture::shownPages() const
     if (!isPaneOpen())
         return {};
     QStringList pages;
-    for (const QWidget* page : m_container->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (const QWidget* page : m_container->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (page->isVisible() && page->objectName() != "frame")
             pages.append(page->metaObject()->className());
-    }
     return pages;
 }
 

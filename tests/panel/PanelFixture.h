@@ -1,7 +1,7 @@
 #pragma once
 
-#include "devhost/model/HostApplication.h"
-#include "tests/devhost/ScriptedHostView.h"
+#include "dev/host/model/HostApplication.h"
+#include "tests/host/ScriptedHostView.h"
 #include "tests/support/ConnectProxy.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"

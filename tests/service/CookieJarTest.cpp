@@ -47,9 +47,8 @@ public:
     QByteArray names() const
     {
         QByteArrayList names;
-        for (const QNetworkCookie& cookie : allCookies()) {
+        for (const QNetworkCookie& cookie : allCookies())
             names << cookie.name();
-        }
         return names.join(' ');
     }
 };
@@ -153,9 +152,8 @@ void CookieJarTest::sitesThatMaySetCookies()
     hosts.sort();
     QCOMPARE(jar.property(list.constData()).toStringList(), hosts);
     QCOMPARE(changed.size(), 0);
-    if (policy == "AcceptNever") {
+    if (policy == "AcceptNever")
         jar.setBlockedCookies({site.host()}); // which are not asked then
-    }
 
     QNetworkCookie foreign = cookie("foreign");
     foreign.setDomain("elsewhere.test");

@@ -44,9 +44,8 @@ void CookieModelTest::init()
 {
     m_warnings = std::make_unique<test::FatalWarnings>();
     m_jar = std::make_unique<CookieJar>();
-    for (const char* name : {"a", "b", "c", "d", "e"}) {
+    for (const char* name : {"a", "b", "c", "d", "e"})
         QVERIFY(m_jar->setCookiesFromUrl({QNetworkCookie(name, "value")}, site));
-    }
     m_model = std::make_unique<CookieModel>(m_jar.get());
     m_tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
 }
@@ -123,9 +122,8 @@ void CookieModelTest::removingRows()
     QCOMPARE(removed, left.size() < 5);
     QCOMPARE(rowsRemoved.size(), removed ? 1 : 0); // which rows, the model tester knows
     QByteArray names;
-    for (int i = 0; i < m_model->rowCount(); ++i) {
+    for (int i = 0; i < m_model->rowCount(); ++i)
         names += m_model->index(i, 1).data().toByteArray();
-    }
     QCOMPARE(names, left);
     QCOMPARE(m_jar->cookiesForUrl(site).size(), left.size());
 }

@@ -37,9 +37,8 @@ void DataStorageTest::theLastKeyToArriveStays()
 {
     test::ScriptedService& service = m_fixture->service();
     m_fixture->scriptSession("session", {});
-    for (const QString key : {"first", "second", ""}) {
+    for (const QString key : {"first", "second", ""})
         service.enqueue(keyOperation, ScriptedReply::result(keyOperation, key).held());
-    }
     DataStorage first;
     QTRY_COMPARE(service.heldCount(), 1);
     DataStorage second;

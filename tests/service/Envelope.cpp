@@ -22,9 +22,8 @@ void readOperation(QXmlStreamReader& xml, Envelope& envelope)
     envelope.operation = xml.name().toString();
     envelope.operationNamespace = xml.namespaceUri().toString();
     while (xml.readNextStartElement()) {
-        if (xml.namespaceUri() != envelope.operationNamespace || !xml.attributes().isEmpty()) {
+        if (xml.namespaceUri() != envelope.operationNamespace || !xml.attributes().isEmpty())
             xml.raiseError("strange parameter " + xml.qualifiedName().toString());
-        }
         const QString name = xml.name().toString();
         envelope.parameters.append(name + '=' + xml.readElementText());
     }
@@ -39,21 +38,16 @@ Envelope Envelope::read(const QByteArray& bytes)
     xml.readNext();
     envelope.version = xml.documentVersion().toString();
     envelope.encoding = xml.documentEncoding().toString();
-    if (!atChild(xml, "Envelope", soapNamespace)) {
+    if (!atChild(xml, "Envelope", soapNamespace))
         xml.raiseError("no envelope");
-    }
-    for (const QXmlStreamNamespaceDeclaration& declaration : xml.namespaceDeclarations()) {
+    for (const QXmlStreamNamespaceDeclaration& declaration : xml.namespaceDeclarations())
         envelope.prefixes.insert(declaration.prefix().toString(), declaration.namespaceUri().toString());
-    }
-    if (!atChild(xml, "Body", soapNamespace) || !xml.readNextStartElement()) {
+    if (!atChild(xml, "Body", soapNamespace) || !xml.readNextStartElement())
         xml.raiseError("no body with an operation");
-    }
     readOperation(xml, envelope);
-    while (!xml.atEnd()) {
-        if (xml.readNext() == QXmlStreamReader::StartElement || bytes.contains("<!DOCTYPE")) {
+    while (!xml.atEnd())
+        if (xml.readNext() == QXmlStreamReader::StartElement || bytes.contains("<!DOCTYPE"))
             xml.raiseError("more than an operation");
-        }
-    }
     envelope.fault = xml.errorString();
     return envelope;
 }
@@ -69,9 +63,8 @@ QString layoutFault(const QByteArray& xml, int width, const QByteArray& lineEnd)
         ++number;
         const QString markup = line.trimmed();
         const int level = depth - (markup.startsWith("</") ? 1 : 0);
-        if (line.indexOf(firstOther) != level * width) {
+        if (line.indexOf(firstOther) != level * width)
             return QString("line %1: '%2'").arg(number).arg(line);
-        }
         depth += line.count(startTag) - line.count(endTag);
     }
     return {};

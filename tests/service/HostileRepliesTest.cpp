@@ -50,9 +50,8 @@ QString many(const QString& unit)
 QString attributes(int count)
 {
     QString text = "<r";
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         text += " a" + QString::number(i) + "='>'";
-    }
     return text + "/>";
 }
 

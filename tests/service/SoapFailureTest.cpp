@@ -26,21 +26,19 @@ Q_DECLARE_METATYPE(Identity)
 /// All request templates.
 static void setBundle(bool there)
 {
-    if (there) {
+    if (there)
         Q_INIT_RESOURCE(DockWidget_3DPH);
-    } else {
+    else
         Q_CLEANUP_RESOURCE(DockWidget_3DPH);
-    }
 }
 
 /// The gate that replies pass, which this program has once more outside the bundle.
 static void setGate(bool there)
 {
-    if (there) {
+    if (there)
         Q_INIT_RESOURCE(OwnGate);
-    } else {
+    else
         Q_CLEANUP_RESOURCE(OwnGate);
-    }
 }
 
 namespace
@@ -58,17 +56,16 @@ public:
 
     void send(const QString& operation)
     {
-        if (operation == "ServiceLogin") {
+        if (operation == "ServiceLogin")
             m_session.ServiceLogin();
-        } else if (operation == "UserLogin") {
+        else if (operation == "UserLogin")
             m_session.UserLogin();
-        } else if (operation == "SimpleSearchAcrossCatalogs") {
+        else if (operation == "SimpleSearchAcrossCatalogs")
             m_results.startSearch();
-        } else if (operation == "GetConfigInfo") {
+        else if (operation == "GetConfigInfo")
             m_detail.GetConfigInfo();
-        } else if (operation == "GetDownload2D") {
+        else if (operation == "GetDownload2D")
             m_detail.GetDownloadURL();
-        }
     }
 
 private:
@@ -250,9 +247,8 @@ void SoapFailureTest::replies()
     QFETCH(QByteArray, body);
     QFETCH(QString, result);
     test::ScriptedService& service = m_fixture->service();
-    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"}) {
+    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"})
         service.setReply(operation, answer(QByteArray(body).replace("OP", operation)));
-    }
 
     DataStorage session;
     QTRY_COMPARE(ApiKey, result);

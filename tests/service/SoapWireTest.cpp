@@ -48,9 +48,8 @@ QStringList headOf(const test::RecordedRequest& request)
     QStringList lines{QString::fromUtf8(request.method + ' ' + request.target)};
     for (const auto& header : request.headers) {
         const QString name = QString::fromUtf8(header.first);
-        if (QStringList{"content-type", "content-length", "soapaction", "cookie"}.contains(name.toLower())) {
+        if (QStringList{"content-type", "content-length", "soapaction", "cookie"}.contains(name.toLower()))
             lines.append(name + ": " + QString::fromUtf8(header.second));
-        }
     }
     return lines;
 }
@@ -159,9 +158,8 @@ void SoapWireTest::requests()
         QCOMPARE(envelope.operation, QString(expected.operation));
         QCOMPARE(envelope.operationNamespace, contentNamespace);
         QCOMPARE(envelope.parameters, parameters);
-        if (!value.contains('\n')) {
+        if (!value.contains('\n'))
             QCOMPARE(test::layoutFault(request.body, 1, "\n"), QString());
-        }
     }
     // The bootstrap's two replies; nothing else is written, least of all a password or token.
     QCOMPARE(m_fixture->warnings().debugLines().size(), 2);

@@ -133,12 +133,10 @@ void XMLParserTest::itemCount_data()
 {
     QTest::addColumn<QString>("reply");
     QTest::addColumn<int>("count");
-    for (const int count : {0, -1, 2147483647}) {
+    for (const int count : {0, -1, 2147483647})
         QTest::addRow("%d", count) << searchReply({}, QString::number(count)) << count;
-    }
-    for (const char* text : {"2147483648", "60 hits", "6e1", "0x10", ""}) {
+    for (const char* text : {"2147483648", "60 hits", "6e1", "0x10", ""})
         QTest::newRow(text) << searchReply({}, text) << 0;
-    }
     QTest::newRow("missing") << "<r/>" << 0;
     QTest::newRow("behind the hits") << "<r><ISearchItem/><b><ActualItemCount>7</ActualItemCount></b></r>"
                                      << 7;
@@ -253,9 +251,8 @@ void XMLParserTest::selfCheck()
 QString XMLParserTest::fileOf(const QByteArray& bytes)
 {
     QFile file(m_folder.filePath("reply.xml"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qCritical("Cannot write %s", qPrintable(file.fileName()));
-    }
     return file.fileName();
 }
 

@@ -34,16 +34,14 @@ ConnectProxy::ConnectProxy(quint16 targetPort, QObject* parent) : QObject(parent
 {
     m_server.setProxy(QNetworkProxy::NoProxy);
     connect(&m_server, &QTcpServer::newConnection, this, &ConnectProxy::accept);
-    if (!m_server.listen(QHostAddress::LocalHost)) {
+    if (!m_server.listen(QHostAddress::LocalHost))
         qCritical("The test proxy cannot listen: %s", qPrintable(m_server.errorString()));
-    }
 }
 
 ConnectProxy::~ConnectProxy()
 {
-    if (m_used) {
+    if (m_used)
         QNetworkProxy::setApplicationProxy(m_before);
-    }
 }
 
 void ConnectProxy::use()
@@ -70,9 +68,8 @@ void ConnectProxy::readRequest()
     const QByteArray seen = client->peek(maximumHeadSize);
     const int end = seen.indexOf(headEnd);
     if (end < 0) {
-        if (seen.size() == maximumHeadSize) {
+        if (seen.size() == maximumHeadSize)
             resetConnection(*client);
-        }
         return;
     }
     client->read(end + headEnd.size());
@@ -81,13 +78,12 @@ void ConnectProxy::readRequest()
     static const QRegularExpression request("^CONNECT (\\S+) HTTP/1\\.[01]\r\n");
     const auto match = request.match(QString::fromLatin1(seen));
     m_destinations.append(match.captured(1));
-    if (!match.hasMatch()) {
+    if (!match.hasMatch())
         refuse(client, "405 Method Not Allowed");
-    } else if (m_refusing) {
+    else if (m_refusing)
         refuse(client, "503 Service Unavailable"); // reported by the toolkit as a refused connection
-    } else {
+    else
         openTunnel(client);
-    }
 }
 
 void ConnectProxy::openTunnel(QTcpSocket* client)

@@ -59,12 +59,10 @@ FatalWarnings::~FatalWarnings()
         const QMutexLocker lock(&s_mutex);
         s_current = nullptr;
     }
-    for (const Announced& announced : qAsConst(m_announced)) {
+    for (const Announced& announced : qAsConst(m_announced))
         fail("Announced line never came: " + announced.pattern.pattern());
-    }
-    for (const QString& text : qAsConst(m_unexpectedElsewhere)) {
+    for (const QString& text : qAsConst(m_unexpectedElsewhere))
         fail("Unexpected warning in another thread: " + text);
-    }
 }
 
 void FatalWarnings::expect(QtMsgType type, const QString& text)
@@ -103,26 +101,21 @@ bool FatalWarnings::swallows(QtMsgType type, const QString& text)
 void FatalWarnings::handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     QMutexLocker lock(&s_mutex);
-    if (!s_current) {
+    if (!s_current)
         return;
-    }
-    if (type == QtDebugMsg) {
+    if (type == QtDebugMsg)
         s_current->m_debugLines.append(text);
-    }
-    if (s_current->swallows(type, text)) {
+    if (s_current->swallows(type, text))
         return;
-    }
     const bool ownThread = QThread::currentThread() == QCoreApplication::instance()->thread();
-    if (isWarning(type) && !ownThread) {
+    if (isWarning(type) && !ownThread)
         s_current->m_unexpectedElsewhere.append(text);
-    }
     const QtMessageHandler previous = s_current->m_previous;
     lock.unlock(); // what follows may write lines of its own
 
     previous(type, context, text);
-    if (isWarning(type) && ownThread) {
+    if (isWarning(type) && ownThread)
         fail("Unexpected warning: " + text);
-    }
 }
 
 } // namespace test

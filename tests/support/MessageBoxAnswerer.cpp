@@ -34,9 +34,8 @@ bool MessageBoxAnswerer::eventFilter(QObject* watched, QEvent* event)
         if (auto* box = qobject_cast<QMessageBox*>(watched)) {
             // The box is still opening; its own event loop comes back here.
             const auto answerThis = [this, guard = QPointer<QMessageBox>(box)] {
-                if (guard) {
+                if (guard)
                     answer(guard);
-                }
             };
             QMetaObject::invokeMethod(this, answerThis, Qt::QueuedConnection);
         }
@@ -51,11 +50,10 @@ void MessageBoxAnswerer::answer(QMessageBox* box)
     const auto wanted = m_buttons.isEmpty() ? QMessageBox::Ok : m_buttons.dequeue();
     emit opened(box);
     if (guard) {
-        if (QAbstractButton* button = box->button(wanted)) {
+        if (QAbstractButton* button = box->button(wanted))
             QTest::mouseClick(button, Qt::LeftButton);
-        } else {
+        else
             QTest::keyClick(box, Qt::Key_Escape);
-        }
     }
     if (guard && guard->isVisible()) {
         QTest::qFail(qPrintable("The message box does not close: " + guard->text()), __FILE__, __LINE__);

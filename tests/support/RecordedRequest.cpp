@@ -31,16 +31,14 @@ bool RecordedRequest::readHead(const QByteArray& bytes)
     head = bytes;
     QList<QByteArray> lines = bytes.split('\n');
     const QList<QByteArray> requestLine = lines.takeFirst().trimmed().split(' ');
-    if (requestLine.size() != 3 || requestLine.last() != "HTTP/1.1") {
+    if (requestLine.size() != 3 || requestLine.last() != "HTTP/1.1")
         return false;
-    }
     method = requestLine.at(0);
     target = requestLine.at(1);
     for (const QByteArray& line : qAsConst(lines)) {
         const int colon = line.indexOf(':');
-        if (colon < 1) {
+        if (colon < 1)
             return false;
-        }
         headers.append({line.left(colon), line.mid(colon + 1).trimmed()});
     }
     return true;

@@ -47,9 +47,8 @@ bool ScriptedConnection::takeRequest()
 {
     static const QByteArray headEnd = "\r\n\r\n";
     const int headSize = m_buffer.indexOf(headEnd);
-    if (headSize < 0) {
+    if (headSize < 0)
         return false;
-    }
     RecordedRequest request;
     bool understood = request.readHead(m_buffer.left(headSize));
     const QByteArray length = request.header("Content-Length");
@@ -61,9 +60,8 @@ bool ScriptedConnection::takeRequest()
         return false;
     }
     const int bodyStart = headSize + headEnd.size();
-    if (m_buffer.size() < bodyStart + bodySize) {
+    if (m_buffer.size() < bodyStart + bodySize)
         return false;
-    }
     request.body = m_buffer.mid(bodyStart, bodySize);
     m_buffer.remove(0, bodyStart + bodySize);
     emit requestArrived(request);

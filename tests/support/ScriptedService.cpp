@@ -40,9 +40,8 @@ ScriptedService::ScriptedService(const ServerIdentity& identity, QObject* parent
     : QObject(parent), m_identity(identity), m_server(std::make_unique<TlsServer>(*this))
 {
     m_server->setProxy(QNetworkProxy::NoProxy);
-    if (!m_server->listen(QHostAddress::LocalHost)) {
+    if (!m_server->listen(QHostAddress::LocalHost))
         qCritical("The scripted service cannot listen: %s", qPrintable(m_server->errorString()));
-    }
 }
 
 ScriptedService::~ScriptedService() = default;
@@ -85,9 +84,8 @@ void ScriptedService::release(int request)
 
 void ScriptedService::releaseAll()
 {
-    for (const Held& held : std::exchange(m_held, {})) {
+    for (const Held& held : std::exchange(m_held, {}))
         sendHeld(held);
-    }
 }
 
 void ScriptedService::sendHeld(const Held& held)
@@ -124,16 +122,13 @@ void ScriptedService::answer(ScriptedConnection* connection, const RecordedReque
 ScriptedReply ScriptedService::replyFor(const RecordedRequest& request)
 {
     const std::array<QString, 2> keys{request.operation(), request.path()};
-    for (const QString& key : keys) {
-        if (!m_queued.value(key).isEmpty()) {
+    for (const QString& key : keys)
+        if (!m_queued.value(key).isEmpty())
             return m_queued[key].dequeue();
-        }
-    }
     for (const QString& key : keys) {
         const auto standing = m_standing.constFind(key);
-        if (standing != m_standing.constEnd()) {
+        if (standing != m_standing.constEnd())
             return *standing;
-        }
     }
     return ScriptedReply::status(404, "nothing is scripted for " + request.target, "text/plain");
 }

@@ -1,6 +1,6 @@
 #include "tests/support/TestCertificates.h"
 
-#include "devcatalog/CertificateAuthority.h"
+#include "dev/catalog/CertificateAuthority.h"
 
 using devcatalog::CertificateAuthority;
 
@@ -42,9 +42,8 @@ TestCertificates::TestCertificates(const QString& hostName) : m_hostName(hostNam
 
 TestCertificates::~TestCertificates()
 {
-    if (m_before) {
+    if (m_before)
         QSslConfiguration::setDefaultConfiguration(*m_before);
-    }
 }
 
 ServerIdentity TestCertificates::good() const
@@ -70,9 +69,8 @@ ServerIdentity TestCertificates::wrongName() const
 void TestCertificates::trust()
 {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    if (!m_before) {
+    if (!m_before)
         m_before = std::make_unique<QSslConfiguration>(configuration);
-    }
     configuration.addCaCertificates(QString::fromStdString(m_authorityFile.string()));
     QSslConfiguration::setDefaultConfiguration(configuration);
 }

@@ -1,0 +1,117 @@
+#include "dev/catalog/CatalogSite.h"
+
+#include "dev/catalog/RandomText.h"
+#include "dev/catalog/drawings/PartDrawing.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+namespace devcatalog
+{
+
+namespace
+{
+
+const std::string thumbnailFolder = "Thumbnails/";
+const std::string thumbnailSuffix = ".png";
+const std::string drawingFolder = "Downloads/";
+
+HttpReply page(int status, const std::string& title, const std::string& text)
+{
+    return {status, "text/html; charset=utf-8",
+            "<!DOCTYPE html>\n<html lang=\"en\">\n<head><meta charset=\"utf-8\"><title>" + title +
+                "</title></head>\n<body><h1>" + title + "</h1><p>" + text + "</p></body>\n</html>\n"};
+}
+
+HttpReply notFound()
+{
+    return page(404, "Not found", "The development catalog has nothing at this address.");
+}
+
+bool beginsWith(std::string_view text, std::string_view beginning)
+{
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+/// A file name that every system takes, without dots.
+std::string fileStem(const Part& part)
+{
+    constexpr std::size_t longest = 60;
+    constexpr std::string_view safe = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    std::string stem;
+    for (const char character : part.name)
+        if (safe.find(character) != std::string_view::npos)
+            stem += character;
+        else if (!stem.empty() && stem.back() != '_')
+            stem += '_';
+    stem = stem.substr(0, longest);
+    while (!stem.empty() && stem.back() == '_')
+        stem.pop_back();
+    return stem.empty() ? part.family : stem;
+}
+
+} // namespace
+
+CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog)
+{
+}
+
+std::string CatalogSite::thumbnailPath(const Part& part) const
+{
+    return thumbnailFolder + std::to_string(&part - m_catalog.parts().data()) + thumbnailSuffix;
+}
+
+std::string CatalogSite::addDrawing(const Part& part, std::string dwg)
+{
+    std::string path = drawingFolder + randomHex(16) + "/" + fileStem(part) + ".dwg";
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_drawings.push_front({path, std::move(dwg)});
+    if (m_drawings.size() > maxDrawings)
+        m_drawings.pop_back();
+    return path;
+}
+
+HttpReply CatalogSite::get(const std::string& path) const
+{
+    std::string file = path.substr(std::min<std::size_t>(1, path.size()));
+    if (beginsWith(file, thumbnailFolder))
+        return thumbnail(file.substr(thumbnailFolder.size()));
+    if (beginsWith(file, drawingFolder))
+        return drawing(file);
+    while (!file.empty() && (file.back() == '/' || file.back() == '\\'))
+        file.pop_back(); // the links that clients show end in such a tail
+    if (file == "Login.aspx") {
+        return page(200, "Log in",
+                    "This is the development catalog. It has one demo account, named in its documentation; "
+                    "there is no password to be sent anew. Log in from the client.");
+    }
+    if (file == "Register.aspx") {
+        return page(
+            200, "Register",
+            "This is the development catalog. Nobody can register here: use the demo account named in "
+            "its documentation.");
+    }
+    return notFound();
+}
+
+HttpReply CatalogSite::thumbnail(const std::string& name) const
+{
+    const std::vector<Part>& parts = m_catalog.parts();
+    std::size_t index = parts.size();
+    std::from_chars(name.data(), name.data() + name.size(), index);
+    if (index >= parts.size() || name != std::to_string(index) + thumbnailSuffix)
+        return notFound();
+    return {200, "image/png", drawThumbnail(parts[index], thumbnailSize, thumbnailSize)};
+}
+
+HttpReply CatalogSite::drawing(const std::string& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = std::find_if(m_drawings.begin(), m_drawings.end(),
+                                    [&path](const StoredDrawing& stored) { return stored.path == path; });
+    return found == m_drawings.end() ? notFound() : HttpReply{200, "image/vnd.dwg", found->dwg};
+}
+
+} // namespace devcatalog

@@ -1,0 +1,144 @@
+#include "dev/catalog/drawings/PartDrawing.h"
+
+#include "dev/catalog/drawings/families/PartSolid.h"
+#include "dev/catalog/drawings/views/ShadedPicture.h"
+#include "dev/catalog/drawings/views/ViewDrawing.h"
+#include "dev/dwg/DrawingExtents.h"
+
+#include <QBuffer>
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+namespace devcatalog
+{
+
+namespace
+{
+
+constexpr double centimetresPerMillimetre = 0.1;
+
+/// Moves a shape, then scales it.
+struct Place {
+    dwg::Point2 offset;
+    double scale;
+
+    dwg::Point2 operator()(const dwg::Point2& point) const
+    {
+        return {scale * (point.x + offset.x), scale * (point.y + offset.y)};
+    }
+    dwg::Shape operator()(const dwg::LineSegment& line) const
+    {
+        return dwg::LineSegment{(*this)(line.from), (*this)(line.to)};
+    }
+    dwg::Shape operator()(const dwg::Circle& circle) const
+    {
+        return dwg::Circle{(*this)(circle.centre), scale * circle.radius};
+    }
+    dwg::Shape operator()(const dwg::Polyline& line) const
+    {
+        dwg::Polyline placed = line;
+        for (dwg::PolylineVertex& vertex : placed.vertices)
+            vertex.point = (*this)(vertex.point);
+        return placed;
+    }
+};
+
+void place(std::vector<dwg::Entity>& entities, const dwg::Point2& offset, double scale)
+{
+    for (dwg::Entity& entity : entities)
+        entity.shape = std::visit(Place{offset, scale}, entity.shape);
+}
+
+Camera cameraFor(Side side)
+{
+    switch (side) {
+    case Side::Top:
+        return Camera::topView();
+    case Side::Left:
+        return Camera::leftView();
+    case Side::Right:
+        return Camera::rightView();
+    case Side::Front:
+        break;
+    }
+    return Camera::frontView();
+}
+
+/// A solid always shows something.
+dwg::Extents extentsOfView(const std::vector<dwg::Entity>& entities)
+{
+    return dwg::extentsOf(entities).value();
+}
+
+/// Front, top above it and right side beside it, as in third-angle projection; a picture goes into the
+/// corner.
+std::vector<dwg::Entity> arrangedViews(const Solid& solid, bool withPicture)
+{
+    std::vector<dwg::Entity> entities = drawView(solid, Camera::frontView());
+    std::vector<dwg::Entity> top = drawView(solid, Camera::topView());
+    std::vector<dwg::Entity> right = drawView(solid, Camera::rightView());
+    const dwg::Extents front = extentsOfView(entities);
+    const double gap = 0.2 * std::max({front.width(), front.height(), extentsOfView(right).width()});
+    const dwg::Point2 corner{front.max.x + gap, front.max.y + gap};
+    place(top, {0, corner.y - extentsOfView(top).min.y}, 1);
+    place(right, {corner.x - extentsOfView(right).min.x, 0}, 1);
+    entities.insert(entities.end(), top.begin(), top.end());
+    entities.insert(entities.end(), right.begin(), right.end());
+    if (withPicture) {
+        std::vector<dwg::Entity> picture = drawView(solid, Camera::isometricView());
+        const dwg::Extents extents = extentsOfView(picture);
+        place(picture, {corner.x - extents.min.x, corner.y - extents.min.y}, 1);
+        entities.insert(entities.end(), picture.begin(), picture.end());
+    }
+    return entities;
+}
+
+std::optional<std::vector<dwg::Entity>> draw(const Solid& solid, std::string_view view)
+{
+    using CameraMaker = Camera (*)();
+    static const std::map<std::string_view, CameraMaker> cameras = {
+        {"eDrawingView_FRONT", Camera::frontView},         {"eDrawingView_TOP", Camera::topView},
+        {"eDrawingView_RIGHT", Camera::rightView},         {"eDrawingView_BACK", Camera::backView},
+        {"eDrawingView_BOTTOM", Camera::bottomView},       {"eDrawingView_LEFT", Camera::leftView},
+        {"eDrawingView_ISOMETRIC", Camera::isometricView}, {"eDrawingView_DIMETRIC", Camera::dimetricView},
+        {"eDrawingView_TRIMETRIC", Camera::trimetricView},
+    };
+    const auto camera = cameras.find(view);
+    if (camera != cameras.end())
+        return drawView(solid, camera->second());
+    if (view == "eDrawingView_PREDEFINED")
+        return drawView(solid, cameraFor(solid.telling));
+    if (view == "eDrawingView_MULTI" || view == "eDrawingView_4VIEW")
+        return arrangedViews(solid, view == "eDrawingView_4VIEW");
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<dwg::Drawing> drawPart(const Part& part, const Configuration& configuration,
+                                     std::string_view view)
+{
+    const auto& unsupported = part.unsupportedViews;
+    if (std::find(unsupported.begin(), unsupported.end(), view) != unsupported.end())
+        return std::nullopt;
+    std::optional<std::vector<dwg::Entity>> entities = draw(buildSolid(part.family, configuration), view);
+    if (!entities)
+        return std::nullopt;
+    place(*entities, {}, centimetresPerMillimetre);
+    return dwg::Drawing{part.name, std::move(*entities)};
+}
+
+std::string drawThumbnail(const Part& part, int width, int height)
+{
+    if (width < 1 || height < 1 || part.configurations.empty())
+        throw std::invalid_argument("no picture without a size and a configuration");
+    const Solid solid = buildSolid(part.family, part.configurations.back());
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    paintSolid(solid, Camera::isometricView(), width, height).save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+} // namespace devcatalog

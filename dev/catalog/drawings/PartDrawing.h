@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dev/catalog/parts/Part.h"
+#include "dev/dwg/Drawing.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace devcatalog
+{
+
+/// Draws a part in one view, from its own dimensions.
+/// @param view wire name, for example "eDrawingView_FRONT".
+/// @return the drawing in centimetres: outlines, hidden edges and centre lines, in pictorial views outlines
+/// only;
+///         nothing when the view is unknown or the part does not support it.
+/// @throws std::invalid_argument when the part's family is unknown or the configuration lacks a dimension of
+/// it.
+std::optional<dwg::Drawing> drawPart(const Part& part, const Configuration& configuration,
+                                     std::string_view view);
+
+/// Draws a part's thumbnail from the same geometry, in its last configuration, on a transparent background.
+/// @param width, height in pixels.
+/// @return a PNG file's bytes.
+/// @throws std::invalid_argument as drawPart does, and when a size is not positive.
+std::string drawThumbnail(const Part& part, int width, int height);
+
+} // namespace devcatalog

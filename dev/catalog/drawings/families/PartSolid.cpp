@@ -1,0 +1,45 @@
+#include "dev/catalog/drawings/families/PartSolid.h"
+
+#include "dev/catalog/drawings/families/Actuators.h"
+#include "dev/catalog/drawings/families/DriveParts.h"
+#include "dev/catalog/drawings/families/Fasteners.h"
+#include "dev/catalog/drawings/families/StructuralParts.h"
+
+#include <map>
+#include <stdexcept>
+#include <string>
+
+namespace devcatalog
+{
+
+Solid buildSolid(std::string_view family, const Configuration& configuration)
+{
+    using Builder = Solid (*)(const Dimensions&);
+    static const std::map<std::string_view, Builder> builders = {
+        {"hex-bolt", hexBolt},
+        {"socket-screw", socketScrew},
+        {"hex-nut", hexNut},
+        {"washer", washer},
+        {"dowel-pin", dowelPin},
+        {"star-knob", starKnob},
+        {"ball-bearing", ballBearing},
+        {"pillow-block", pillowBlock},
+        {"spur-gear", spurGear},
+        {"v-belt-pulley", beltPulley},
+        {"compression-spring", compressionSpring},
+        {"angle-bracket", angleBracket},
+        {"aluminium-profile", aluminiumProfile},
+        {"pipe-flange", pipeFlange},
+        {"bridge-handle", bridgeHandle},
+        {"enclosure", enclosure},
+        {"pneumatic-cylinder", pneumaticCylinder},
+        {"proximity-sensor", proximitySensor},
+        {"stepper-motor", stepperMotor},
+    };
+    const auto builder = builders.find(family);
+    if (builder == builders.end())
+        throw std::invalid_argument("unknown family " + std::string(family));
+    return builder->second(Dimensions(configuration));
+}
+
+} // namespace devcatalog

@@ -1,0 +1,93 @@
+/// The development catalog as a program of its own.
+
+#include "dev/catalog/CatalogServer.h"
+#include "dev/catalog/CertificateFolder.h"
+#include "dev/catalog/ServiceHost.h"
+
+#include <exception>
+#include <future>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+constexpr const char* usage =
+    "Usage: devcatalog-server [--port N] [--certificates DIR] [--log]\n"
+    "Serves the development catalog as https://" PARTHARBOR_SERVICE_HOST
+    " on this machine until it is ended.\n"
+    "  --port N            listen at this port, 0 for any free one, instead of the service host's\n"
+    "  --certificates DIR  keep the certificate authority here instead of in the user's cache\n"
+    "  --log               print a line for each request\n";
+
+devcatalog::CatalogServerOptions builtInOptions()
+{
+    devcatalog::CatalogServerOptions options;
+    options.serviceHost = PARTHARBOR_SERVICE_HOST;
+    options.port = devcatalog::ServiceHost(options.serviceHost).port();
+    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
+                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
+    options.users = {{"demo@partharbor.example", "demo"}};
+    return options;
+}
+
+int parsePort(const std::string& text)
+{
+    const bool isNumber =
+        !text.empty() && text.size() <= 5 && text.find_first_not_of("0123456789") == std::string::npos;
+    const int port = isNumber ? std::stoi(text) : -1;
+    if (port < 0 || port > 65535)
+        throw std::invalid_argument("'" + text + "' is no port.");
+    return port;
+}
+
+devcatalog::CatalogServerOptions parseArguments(const std::vector<std::string>& arguments)
+{
+    devcatalog::CatalogServerOptions options = builtInOptions();
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        const bool hasValue = argument + 1 != arguments.end();
+        if (*argument == "--port" && hasValue)
+            options.port = parsePort(*++argument);
+        else if (*argument == "--certificates" && hasValue)
+            options.certificateFolder = *++argument;
+        else if (*argument == "--log")
+            options.log = [](const std::string& line) { std::cout << line << std::endl; };
+        else
+            throw std::invalid_argument("'" + *argument + "' is not understood.\n" + usage);
+    }
+    if (options.certificateFolder.empty())
+        options.certificateFolder = devcatalog::defaultCertificateFolder();
+    return options;
+}
+
+int run(const std::vector<std::string>& arguments)
+{
+    if (!arguments.empty() && arguments.front() == "--help") {
+        std::cout << usage;
+        return 0;
+    }
+    const devcatalog::CatalogServerOptions options = parseArguments(arguments);
+    devcatalog::CatalogServer server(options);
+    server.start();
+    std::cout << "The development catalog serves https://" << server.serviceHost() << " at port "
+              << server.port() << " of 127.0.0.1.\nIts certificate authority: " << server.caFile().string()
+              << "\nLog in as " << options.users.front().userId << ", password "
+              << options.users.front().password << "." << std::endl;
+    std::promise<void> never; // a signal ends the program; it holds nothing that would be lost
+    never.get_future().wait();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run({argv + 1, argv + argc});
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << std::endl;
+        return 1;
+    }
+}

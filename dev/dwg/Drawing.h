@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace dwg
+{
+
+/// A point or direction in the drawing plane, in centimetres.
+struct Point2 {
+    double x = 0.0;
+    double y = 0.0;
+};
+
+struct LineSegment {
+    Point2 from;
+    Point2 to;
+};
+
+struct Circle {
+    Point2 centre;
+    double radius = 0.0;
+};
+
+/// A vertex of a polyline; the bulge belongs to the segment that starts here: tan(sweep / 4), positive
+/// counter-clockwise, 0 for a straight one.
+struct PolylineVertex {
+    Point2 point;
+    double bulge = 0.0;
+};
+
+struct Polyline {
+    std::vector<PolylineVertex> vertices;
+    bool closed = false;
+};
+
+using Shape = std::variant<LineSegment, Circle, Polyline>;
+
+/// What a line of the drawing stands for; each kind has a layer and a linetype of its own.
+enum class LineKind { Outline, Hidden, Centre };
+
+struct Entity {
+    LineKind kind = LineKind::Outline;
+    Shape shape;
+};
+
+/// A 2D drawing in centimetres, before it becomes a file.
+struct Drawing {
+    std::string title;
+    std::vector<Entity> entities;
+};
+
+} // namespace dwg

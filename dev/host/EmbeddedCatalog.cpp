@@ -1,0 +1,97 @@
+#include "dev/host/EmbeddedCatalog.h"
+
+#include "dev/catalog/CatalogServer.h"
+#include "dev/catalog/CertificateFolder.h"
+#include "dev/catalog/ServiceHost.h"
+
+#include <algorithm>
+#include <chrono>
+#include <exception>
+#include <mutex>
+#include <random>
+#include <thread>
+
+namespace devhost
+{
+
+namespace
+{
+
+devcatalog::CatalogServerOptions builtInOptions()
+{
+    devcatalog::CatalogServerOptions options;
+    options.serviceHost = PARTHARBOR_SERVICE_HOST;
+    options.port = devcatalog::ServiceHost(options.serviceHost).port();
+    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
+                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
+    options.users = {
+        {EmbeddedCatalog::accountUser().toStdString(), EmbeddedCatalog::accountPassword().toStdString()}};
+    options.certificateFolder = devcatalog::defaultCertificateFolder();
+    return options;
+}
+
+int randomNumber(int most)
+{
+    static std::mutex mutex;
+    static std::mt19937 generator; // The same numbers in every run.
+    const std::lock_guard<std::mutex> lock(mutex);
+    return std::uniform_int_distribution<>(0, most)(generator);
+}
+
+void spoil(std::string& file, CatalogFaults::Drawings drawings)
+{
+    if (drawings == CatalogFaults::Drawings::CutShort)
+        file.resize(file.size() / 2);
+    else if (drawings == CatalogFaults::Drawings::Noise)
+        std::generate(file.begin(), file.end(), [] { return static_cast<char>(randomNumber(255)); });
+}
+
+/// Spoils and delays a reply as told; called in one of the catalog's threads.
+void inject(const CatalogFaults& faults, devcatalog::HttpReply& reply)
+{
+    constexpr int longestDelay = 300; // Milliseconds.
+    if (reply.contentType == "image/vnd.dwg")
+        spoil(reply.body, faults.drawings);
+    if (faults.slow)
+        std::this_thread::sleep_for(std::chrono::milliseconds(randomNumber(longestDelay)));
+}
+
+} // namespace
+
+EmbeddedCatalog::EmbeddedCatalog() = default;
+
+EmbeddedCatalog::~EmbeddedCatalog() = default;
+
+bool EmbeddedCatalog::start(const CatalogFaults& faults)
+{
+    try {
+        devcatalog::CatalogServerOptions options = builtInOptions();
+        options.beforeReply = [faults](const devcatalog::HttpRequest&, devcatalog::HttpReply& reply) {
+            inject(faults, reply);
+        };
+        m_server = std::make_unique<devcatalog::CatalogServer>(std::move(options));
+        m_server->start();
+        return true;
+    } catch (const std::exception& exception) {
+        m_server.reset();
+        m_errorString = QString::fromLocal8Bit(exception.what());
+        return false;
+    }
+}
+
+QString EmbeddedCatalog::caFile() const
+{
+    return QString::fromStdString(m_server->caFile().string());
+}
+
+QString EmbeddedCatalog::accountUser()
+{
+    return "demo@partharbor.example";
+}
+
+QString EmbeddedCatalog::accountPassword()
+{
+    return "demo";
+}
+
+} // namespace devhost

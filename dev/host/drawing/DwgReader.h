@@ -1,0 +1,25 @@
+#pragma once
+
+#include "dev/host/model/BlockGeometry.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace devhost
+{
+
+/// What came of reading a drawing file.
+struct DwgContent {
+    std::optional<BlockGeometry> geometry; ///< Nothing when the file cannot be read.
+    QString problem; ///< One sentence for the user when it cannot be read or draws nothing; else empty.
+};
+
+/// Reads the lines of a DWG file of release R2000 to R2002 through GDAL's CAD driver.
+///
+/// The driver tells no linetypes, so they follow from the layers' names: hidden lines lie on a layer with
+/// "hidden" in its name, centre lines on one with "centre" or "center". Colours are those of the layers. A
+/// file of any content is answered, never with more than a million points.
+DwgContent readDwg(const QString& file);
+
+} // namespace devhost

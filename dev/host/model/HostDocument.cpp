@@ -1,0 +1,17 @@
+#include "dev/host/model/HostDocument.h"
+
+namespace devhost
+{
+
+HostDocument::HostDocument(std::shared_ptr<HostContext> context, const QString& name, HostView& view)
+    : HostObject(std::move(context), "Document", name),
+      m_model(std::make_shared<HostModelSpace>(sharedContext(), view))
+{
+}
+
+pvResult HostDocument::GetModel(pvModel_c** model)
+{
+    return call("GetModel").giveObject(model, m_model.get());
+}
+
+} // namespace devhost

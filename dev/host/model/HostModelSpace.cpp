@@ -1,0 +1,17 @@
+#include "dev/host/model/HostModelSpace.h"
+
+namespace devhost
+{
+
+HostModelSpace::HostModelSpace(std::shared_ptr<HostContext> context, HostView& view)
+    : HostObject(std::move(context), "Model"),
+      m_sketchManager(std::make_shared<HostSketchManager>(sharedContext(), view))
+{
+}
+
+pvResult HostModelSpace::GetSketchManager(pvSketchManager_c** manager)
+{
+    return call("GetSketchManager").giveObject(manager, m_sketchManager.get());
+}
+
+} // namespace devhost

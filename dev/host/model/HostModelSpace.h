@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dev/host/model/HostSketchManager.h"
+
+#include <pvInterface/pvModel_c.h>
+
+namespace devhost
+{
+
+/// The model space of a drawing.
+class HostModelSpace final : public HostObject<pvModel_c>
+{
+public:
+    HostModelSpace(std::shared_ptr<HostContext> context, HostView& view);
+
+    const HostSketchManager& sketchManager() const { return *m_sketchManager; }
+
+    pvResult GetSketchManager(pvSketchManager_c** manager) override;
+
+private:
+    std::shared_ptr<HostSketchManager> m_sketchManager;
+};
+
+} // namespace devhost

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "dev/host/model/HostSettings.h"
+
+#include <QMenu>
+
+namespace devhost
+{
+
+/// The window's own menu: what the host reports to the add-in, to be chosen while it runs, and the
+/// connection.
+class HostMenu final : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit HostMenu(const HostSettings& settings, QWidget* parent = nullptr);
+
+    /// @return what is chosen; the add-in learns it at the next connect.
+    const HostSettings& settings() const { return m_settings; }
+
+signals:
+    void darkThemeChosen(bool dark);
+    void reconnectChosen();
+    void galleryChosen();
+
+private:
+    void addLanguages();
+    void addThemes();
+
+    HostSettings m_settings;
+};
+
+} // namespace devhost

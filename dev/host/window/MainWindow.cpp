@@ -1,0 +1,297 @@
+#include "dev/host/window/MainWindow.h"
+
+#include "dev/host/model/DraftingInterface.h"
+#include "dev/host/window/CommandIcons.h"
+#include "dev/host/window/CommandLine.h"
+#include "dev/host/window/DrawingArea.h"
+#include "dev/host/window/HostMenu.h"
+#include "dev/host/window/HostMenuBar.h"
+#include "dev/host/window/JournalPanel.h"
+#include "dev/host/window/Ribbon.h"
+#include "dev/host/window/WidgetGallery.h"
+#include "dev/host/window/WindowTheme.h"
+#include "dev/host/window/WindowView.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+static void initializeIcons()
+{
+    Q_INIT_RESOURCE(devhost_icons); // Has to be called outside of any namespace.
+}
+
+namespace devhost
+{
+
+namespace
+{
+
+constexpr QSize initialSize(1280, 800);
+constexpr int commandLineHeight = 110;
+const char addInStyleSheet[] = ":/3DPH/Resource/PV3DPartHarborDarkMode.qss"; // In the add-in's bundle.
+
+} // namespace
+
+MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
+    : QMainWindow(parent),
+      m_drawingArea(new DrawingArea),
+      m_commandLine(new CommandLine),
+      m_view(std::make_unique<WindowView>(*this, *m_drawingArea, *m_commandLine)),
+      m_host(std::make_shared<HostApplication>(*m_view)),
+      m_menuBar(new HostMenuBar),
+      m_hostMenu(new HostMenu(settings, m_menuBar)),
+      m_ribbon(new Ribbon),
+      m_documentTabs(new QTabBar),
+      m_coordinates(new QLabel),
+      m_gridButton(new QToolButton)
+{
+    initializeIcons();
+    setObjectName("mainWindow");
+    resize(initialSize);
+    m_host->settings() = settings;
+    addDraftingInterface(*m_host);
+    createLayout();
+    createStatusBar();
+    createCommands();
+    connectParts();
+    applyTheme(settings.darkTheme);
+    m_host->newDocument();
+}
+
+MainWindow::~MainWindow()
+{
+    m_view->cancelPrompt();
+    disconnect(&m_host->changes(), nullptr, this, nullptr);
+    m_host.reset(); // Panes end before the window's own widgets.
+}
+
+PlacementPrompt* MainWindow::currentPrompt() const
+{
+    return m_view->currentPrompt();
+}
+
+const HostSettings& MainWindow::chosenSettings() const
+{
+    return m_hostMenu->settings();
+}
+
+void MainWindow::createLayout()
+{
+    m_menuBar->addMenu(m_hostMenu);
+    setMenuBar(m_menuBar);
+
+    auto* ribbonBar = new QToolBar("Ribbon");
+    ribbonBar->setObjectName("ribbonBar");
+    ribbonBar->setMovable(false);
+    ribbonBar->setContextMenuPolicy(Qt::PreventContextMenu);
+    ribbonBar->addWidget(m_ribbon);
+    addToolBar(ribbonBar);
+
+    m_documentTabs->setObjectName("documentTabs");
+    m_documentTabs->setDocumentMode(true);
+    m_documentTabs->setExpanding(false);
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_documentTabs);
+    layout->addWidget(m_drawingArea, 1);
+    setCentralWidget(centre);
+
+    auto* commandDock = new QDockWidget("Command Line", this);
+    commandDock->setObjectName("commandDock");
+    commandDock->setWidget(m_commandLine);
+    auto* journal = new JournalPanel(m_host->journal(), this);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    addDockWidget(Qt::BottomDockWidgetArea, commandDock);
+    splitDockWidget(commandDock, journal, Qt::Horizontal);
+    resizeDocks({commandDock}, {commandLineHeight}, Qt::Vertical);
+    journal->hide();
+    m_hostMenu->addAction(journal->toggleViewAction());
+    m_hostMenu->addAction(commandDock->toggleViewAction());
+}
+
+void MainWindow::createStatusBar()
+{
+    m_coordinates->setObjectName("coordinates");
+    m_coordinates->setMinimumWidth(fontMetrics().horizontalAdvance("-00000.0000, -00000.0000, 0.0000"));
+    m_gridButton->setText("GRID");
+    m_gridButton->setToolTip("Shows or hides the grid");
+    m_gridButton->setCheckable(true);
+    m_gridButton->setChecked(m_drawingArea->isGridVisible());
+    m_gridButton->setAutoRaise(true);
+    m_gridButton->setFocusPolicy(Qt::NoFocus);
+    statusBar()->addWidget(m_coordinates);
+    statusBar()->addPermanentWidget(new QLabel("MODEL"));
+    statusBar()->addPermanentWidget(m_gridButton);
+}
+
+void MainWindow::createCommands()
+{
+    m_commands = {
+        {"NEW", [this] { m_host->newDocument(); }},
+        {"CLOSE", [this] { m_host->closeActiveDocument(); }},
+        {"QUIT", [this] { close(); }},
+        {"REGEN", [this] { m_drawingArea->update(); }},
+        {"ZOOMEXTENTS", [this] { m_drawingArea->zoomExtents(); }},
+        {"ZOOMIN", [this] { m_drawingArea->zoomIn(); }},
+        {"ZOOMOUT", [this] { m_drawingArea->zoomOut(); }},
+        {"GRID", [this] { toggleGrid(); }},
+        {"RECONNECT", [this] { emit reconnectRequested(); }},
+        {"HELP", [this] { printCommands(); }},
+    };
+}
+
+void MainWindow::connectParts()
+{
+    const HostChanges& changes = m_host->changes();
+    connect(&changes, &HostChanges::menusChanged, this, &MainWindow::showMenus);
+    connect(&changes, &HostChanges::ribbonChanged, this, &MainWindow::showRibbon);
+    connect(&changes, &HostChanges::documentsChanged, this, &MainWindow::showDocuments);
+    connect(&changes, &HostChanges::blocksChanged, m_drawingArea, qOverload<>(&QWidget::update));
+
+    connect(m_menuBar, &HostMenuBar::commandChosen, this, &MainWindow::runCommand);
+    connect(m_ribbon, &Ribbon::commandChosen, this, &MainWindow::runCommand);
+    const auto runUserCommand = [this](const QString& id) { m_host->runUserCommand(id); };
+    connect(m_menuBar, &HostMenuBar::userCommandChosen, this, runUserCommand);
+    connect(m_ribbon, &Ribbon::userCommandChosen, this, runUserCommand);
+    connect(m_hostMenu, &HostMenu::darkThemeChosen, this, &MainWindow::applyTheme);
+    connect(m_hostMenu, &HostMenu::reconnectChosen, this, &MainWindow::reconnectRequested);
+    connect(m_hostMenu, &HostMenu::galleryChosen, this, &MainWindow::showGallery);
+    connect(m_gridButton, &QToolButton::clicked, this, &MainWindow::toggleGrid);
+
+    connect(m_commandLine, &CommandLine::submitted, this, &MainWindow::takeText);
+    connect(m_drawingArea, &DrawingArea::keyTyped, m_commandLine, &CommandLine::takeKey);
+    connect(m_drawingArea, &DrawingArea::cursorMoved, this, &MainWindow::showCursor);
+
+    connect(m_documentTabs, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index >= 0)
+            m_host->activate(*m_host->documents().objects().at(static_cast<std::size_t>(index)));
+    });
+}
+
+void MainWindow::takeText(const QString& text)
+{
+    if (PlacementPrompt* prompt = currentPrompt())
+        prompt->submit(text);
+    else
+        runCommand(text.isEmpty() ? m_lastCommand : text); // An empty line repeats.
+}
+
+void MainWindow::runCommand(const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    m_lastCommand = text;
+    const QString command = text.toUpper();
+    if (const auto own = m_commands.value(command)) {
+        own();
+        return;
+    }
+    if (m_host->runCommand(text))
+        return;
+    m_commandLine->print(isShownCommand(command)
+                             ? QString("%1 is not part of the development host.").arg(command)
+                             : QString("Unknown command \"%1\". HELP lists the commands.").arg(text));
+}
+
+bool MainWindow::isShownCommand(const QString& command) const
+{
+    for (const auto& menu : m_host->menus().objects())
+        if (menu->entries().find([&](const auto& entry) { return entry.properties().command == command; }))
+            return true;
+    return !m_ribbon->findChildren<QToolButton*>(command).isEmpty();
+}
+
+void MainWindow::printCommands()
+{
+    QStringList names = m_commands.keys();
+    for (const auto& command : m_host->commands().objects())
+        names.append(command->name());
+    names.sort();
+    m_commandLine->print("Commands: " + names.join(", "));
+}
+
+void MainWindow::applyTheme(bool dark)
+{
+    applyWindowTheme(dark);
+    m_drawingArea->setDark(dark);
+    showMenus(); // Icons have the colour of the text.
+    showRibbon();
+    showDocuments();
+}
+
+void MainWindow::showMenus()
+{
+    m_menuBar->showMenus(*m_host);
+}
+
+void MainWindow::showRibbon()
+{
+    const auto workspaces = m_host->workspaces().objects();
+    if (!workspaces.empty())
+        m_ribbon->showWorkspace(*m_host, *workspaces.front());
+}
+
+void MainWindow::showDocuments()
+{
+    while (m_documentTabs->count() > 0)
+        m_documentTabs->removeTab(0);
+    const auto active = m_host->activeDocument();
+    for (const auto& document : m_host->documents().objects()) {
+        const int index = m_documentTabs->addTab(document->name());
+        m_documentTabs->setTabButton(index, QTabBar::RightSide, createCloseButton(*document));
+        if (document == active)
+            m_documentTabs->setCurrentIndex(index);
+    }
+    m_drawingArea->setDocument(active);
+    setWindowTitle(active ? QString("Plotvane Development Host - [%1]").arg(active->name())
+                          : QString("Plotvane Development Host"));
+}
+
+QWidget* MainWindow::createCloseButton(const HostDocument& document)
+{
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setIcon(commandIcon("CLOSE", palette().color(QPalette::WindowText)));
+    button->setIconSize({12, 12});
+    button->setToolTip(QString("Close %1").arg(document.name()));
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, &document] { // The tab goes with the drawing.
+        m_host->activate(document);
+        m_host->closeActiveDocument();
+    });
+    return button;
+}
+
+void MainWindow::showCursor(const QPointF& model)
+{
+    m_coordinates->setText(QString("%1, %2, 0.0000").arg(model.x(), 0, 'f', 4).arg(model.y(), 0, 'f', 4));
+}
+
+void MainWindow::toggleGrid()
+{
+    m_drawingArea->setGridVisible(!m_drawingArea->isGridVisible());
+    m_gridButton->setChecked(m_drawingArea->isGridVisible());
+}
+
+void MainWindow::showGallery()
+{
+    auto* gallery = new WidgetGallery(addInStyleSheet, this);
+    gallery->setAttribute(Qt::WA_DeleteOnClose);
+    gallery->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    m_view->cancelPrompt();
+    event->accept();
+}
+
+} // namespace devhost

@@ -1,0 +1,116 @@
+#include "dev/catalog/parts/PartCatalog.h"
+#include "dev/catalog/soap/WireContract.h"
+
+#include <QSet>
+#include <QtTest>
+
+#include <algorithm>
+#include <string>
+
+using namespace devcatalog;
+
+class PartCatalogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void partsAreManyAndWhole();
+    void searchFindsWordsInAnyOrderAndCase_data();
+    void searchFindsWordsInAnyOrderAndCase();
+    void searchFindsJustWhatHasEveryWord();
+    void findsAPartBySupplierAndName();
+
+private:
+    const PartCatalog m_catalog;
+};
+
+void PartCatalogTest::partsAreManyAndWhole()
+{
+    QSet<QString> families;
+    QString allText;
+    for (const Part& part : m_catalog.parts()) {
+        families.insert(QString::fromStdString(part.family));
+        for (const std::string& text : {part.name, part.supplier, part.description}) {
+            const QString read = QString::fromStdString(text);
+            QCOMPARE(read.toStdString(), text); // Broken UTF-8 would not come back.
+            QCOMPARE(read.trimmed(), read);
+            QVERIFY2(!read.contains('{'), qPrintable(read));
+            allText += read;
+        }
+        QSet<QString> names;
+        for (const Configuration& configuration : part.configurations) {
+            names.insert(QString::fromStdString(configuration.name));
+            QVERIFY(configuration.parameters.size() > 1);
+            for (const Parameter& parameter : configuration.parameters)
+                QVERIFY2(!parameter.name.empty() && !parameter.value.empty(), configuration.name.c_str());
+        }
+        QVERIFY2(!names.isEmpty() && names.size() <= 4, part.name.c_str());
+        QCOMPARE(static_cast<std::size_t>(names.size()), part.configurations.size());
+        for (const std::string& view : part.unsupportedViews)
+            QVERIFY2(std::count(drawingViews.begin(), drawingViews.end(), view) == 1, view.c_str());
+    }
+    QVERIFY(m_catalog.parts().size() >= 300);
+    QVERIFY(families.size() >= 12);
+    for (const QChar awkward : QString("&<\"'"))
+        QVERIFY2(allText.contains(awkward), qPrintable(QString(awkward)));
+}
+
+void PartCatalogTest::searchFindsWordsInAnyOrderAndCase_data()
+{
+    QTest::addColumn<QString>("term");
+    QTest::addColumn<QString>("found");
+    const auto row = [](const char* name, const char* term, const char* found) {
+        QTest::newRow(name) << QString::fromUtf8(term) << QString::fromUtf8(found);
+    };
+    const char* const bolt = "Brandmoor & Vogelsang: Hex bolt M8";
+    row("in another order", "M8 BOLT Hex", bolt);
+    row("a word of the supplier", "vogelsang m8 bolt", bolt);
+    row("a word of the description", "chromium(vi) M8", bolt);
+    row("parts of words", "brand bol m8", bolt);
+    row("blanks around and between", "\t hex   bolt\nM8 ", bolt);
+    row("ampersand", "& hex bolt m8", bolt);
+    row("wide letters", "ｈｅｘ ｂｏｌｔ m8", bolt);
+    row("Cyrillic", "шарикоПОДШИПНИК 6204", "ООО «Клён-Подшипник»: Шарикоподшипник 6204");
+    row("Greek", "ΕΛΑΙΏΝΑΣ 2 x 20 ΕΛΑΤΉΡΙΟ", "Ελαιώνας Ελατήρια Α.Ε.: Ελατήριο συμπίεσης 2 x 20");
+    row("umlaut, composed otherwise", "ZWO\u0308LFHAUS druckfeder 2 x 20",
+        "Federnwerk Zwölfhaus: Druckfeder 2 x 20");
+    row("sharp s as two", "MÜSSIGBRUNN 6204", "Müßigbrunn Wälzlager GmbH & Co. KG: Rillenkugellager 6204");
+    row("Japanese", "六角 M8", "碧谷精密工業株式会社: 六角ボルト M8");
+}
+
+void PartCatalogTest::searchFindsWordsInAnyOrderAndCase()
+{
+    QFETCH(QString, term);
+    QFETCH(QString, found);
+    const std::vector<const Part*> hits = m_catalog.search(term.toStdString());
+    QVERIFY(std::any_of(hits.begin(), hits.end(), [&found](const Part* part) {
+        return part->supplier + ": " + part->name == found.toStdString();
+    }));
+}
+
+void PartCatalogTest::searchFindsJustWhatHasEveryWord()
+{
+    for (const char* term : {"", "\t\n", "\u3000", "hex bolt m8 xylophone"})
+        QVERIFY(m_catalog.search(term).empty());
+    const auto found = m_catalog.search("hex");
+    QVERIFY(found.size() > 20); // Several pages.
+    for (const Part& part : m_catalog.parts()) {
+        const std::string text = part.name + '\n' + part.supplier + '\n' + part.description;
+        QCOMPARE(std::count(found.begin(), found.end(), &part) == 1,
+                 QString::fromStdString(text).contains("hex", Qt::CaseInsensitive));
+    }
+    QVERIFY(std::is_sorted(found.begin(), found.end())); // In catalog order.
+}
+
+/// So that supplier and name tell any two parts apart.
+void PartCatalogTest::findsAPartBySupplierAndName()
+{
+    for (const Part& part : m_catalog.parts())
+        QCOMPARE(m_catalog.find(part.supplier, part.name), &part);
+    const Part& part = m_catalog.parts().front();
+    QCOMPARE(m_catalog.find(part.supplier, part.name + " "), nullptr);
+    QCOMPARE(m_catalog.find("", part.name), nullptr);
+}
+
+QTEST_GUILESS_MAIN(PartCatalogTest)
+#include "PartCatalogTest.moc"

@@ -1,0 +1,358 @@
+#include "dev/catalog/drawings/PartDrawing.h"
+#include "dev/catalog/parts/PartCatalog.h"
+#include "dev/catalog/soap/WireContract.h"
+#include "dev/dwg/DrawingCheck.h"
+#include "dev/dwg/DrawingExtents.h"
+#include "tests/catalog/DrawingPieces.h"
+
+#include <QImage>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+using namespace devcatalog;
+using namespace dwg;
+using test::circlesOf;
+using test::DrawingPiece;
+using test::edgesOf;
+using test::piecesOf;
+
+Q_DECLARE_METATYPE(const Part*)
+
+namespace
+{
+
+bool isPictorial(const std::string& view)
+{
+    return QString::fromStdString(view).endsWith("METRIC");
+}
+
+Drawing drawn(const Part& part, const std::string& view)
+{
+    return drawPart(part, part.configurations.back(), "eDrawingView_" + view).value();
+}
+
+/// "lines/arcs/circles" of outlines, hidden edges and centre lines.
+QString tally(const Drawing& drawing)
+{
+    QStringList counts;
+    for (const LineKind kind : {LineKind::Outline, LineKind::Hidden, LineKind::Centre}) {
+        int lines = 0;
+        int arcs = 0;
+        for (const DrawingPiece& piece : piecesOf(drawing, kind))
+            ++(piece.bulge == 0 ? lines : arcs);
+        counts << QString("%1/%2/%3").arg(lines).arg(arcs).arg(circlesOf(drawing, kind).size());
+    }
+    return counts.join(" ");
+}
+
+/// Two edges that cover one another; empty when there are none.
+QString drawnTwice(const Drawing& drawing)
+{
+    const std::vector<DrawingPiece> pieces = piecesOf({"", edgesOf(drawing)});
+    for (std::size_t i = 0; i < pieces.size(); ++i)
+        for (std::size_t j = i + 1; j < pieces.size(); ++j)
+            if (pieces[i].covers(pieces[j]))
+                return pieces[i].toString() + " and " + pieces[j].toString();
+    return {};
+}
+
+/// An outline with an end that lies on no other outline, which has been taken for hidden by mistake; empty
+/// when there is none.
+QString looseOutline(const Drawing& drawing)
+{
+    const Extents extents = extentsOf(drawing.entities).value();
+    const double tolerance = 1e-3 * std::max(extents.width(), extents.height());
+    const auto circles = circlesOf(drawing, LineKind::Outline);
+    const auto pieces = piecesOf(drawing, LineKind::Outline);
+    for (const DrawingPiece& piece : pieces)
+        for (const Point2& end : {piece.from, piece.to}) {
+            const bool onPiece = std::any_of(pieces.begin(), pieces.end(), [&](const DrawingPiece& other) {
+                return &other != &piece && other.mayReach(end, tolerance) &&
+                       other.distanceTo(end) < tolerance;
+            });
+            const bool onCircle = std::any_of(circles.begin(), circles.end(), [&](const Circle& circle) {
+                const double distance = std::hypot(end.x - circle.centre.x, end.y - circle.centre.y);
+                return std::abs(distance - circle.radius) < tolerance;
+            });
+            if (!onPiece && !onCircle)
+                return piece.toString();
+        }
+    return {};
+}
+
+/// A line without its mirror image on the other side, left and right or above and below; empty when there is
+/// none.
+QString lonely(const Drawing& drawing, bool leftAndRight)
+{
+    const Extents extents = extentsOf(edgesOf(drawing)).value();
+    const auto mirrored = [&](const Point2& point) {
+        return leftAndRight ? Point2{extents.min.x + extents.max.x - point.x, point.y}
+                            : Point2{point.x, extents.min.y + extents.max.y - point.y};
+    };
+    const std::vector<DrawingPiece> pieces = piecesOf(drawing);
+    for (const DrawingPiece& piece : pieces)
+        for (const Point2& point : {piece.from, piece.middle(), piece.to})
+            if (std::none_of(pieces.begin(), pieces.end(), [&](const DrawingPiece& other) {
+                    return other.kind == piece.kind && other.distanceTo(mirrored(point)) < 1e-3;
+                }))
+                return piece.toString();
+    return {};
+}
+
+} // namespace
+
+class PartDrawingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyFamilyDrawsEveryView_data();
+    void everyFamilyDrawsEveryView();
+    void everyPartDraws();
+    void viewsShowTheDimensions_data();
+    void viewsShowTheDimensions();
+    void symmetricPartsHaveSymmetricViews_data();
+    void symmetricPartsHaveSymmetricViews();
+    void springsLookAlikeFromAllSides();
+    void multipleViewsLieBesideOneAnother();
+    void thumbnailsShowTheParts();
+
+private:
+    /// @param size a configuration's name; empty for the last one of the family's first part.
+    Drawing drawnFromCatalog(const QString& family, const QString& size, const QString& view) const;
+
+    const PartCatalog m_catalog;
+};
+
+Drawing PartDrawingTest::drawnFromCatalog(const QString& family, const QString& size,
+                                          const QString& view) const
+{
+    const std::string wireName = "eDrawingView_" + view.toStdString();
+    for (const Part& part : m_catalog.parts()) {
+        if (part.family != family.toStdString())
+            continue;
+        if (size.isEmpty())
+            return drawn(part, view.toStdString());
+        for (const Configuration& configuration : part.configurations)
+            if (configuration.name == size.toStdString())
+                return drawPart(part, configuration, wireName).value();
+    }
+    throw std::invalid_argument("no such part");
+}
+
+void PartDrawingTest::everyFamilyDrawsEveryView_data()
+{
+    QTest::addColumn<const Part*>("part");
+    QMap<QString, const Part*> last;
+    for (const Part& part : m_catalog.parts()) {
+        const QString family = QString::fromStdString(part.family);
+        if (!last.contains(family))
+            QTest::newRow(qPrintable(family + ", first")) << &part;
+        last[family] = &part;
+    }
+    for (auto family = last.begin(); family != last.end(); ++family)
+        QTest::newRow(qPrintable(family.key() + ", last")) << family.value();
+}
+
+void PartDrawingTest::everyFamilyDrawsEveryView()
+{
+    QFETCH(const Part*, part);
+    // The outlines of bent wires do end where the wire turns from the viewer, and the circle of an internal
+    // thread is left open.
+    const bool hasLooseEnds =
+        QStringList{"compression-spring", "bridge-handle", "hex-nut"}.contains(part->family.c_str());
+    for (const std::string_view wireName : drawingViews) {
+        const std::string view(wireName);
+        const auto drawing = drawPart(*part, part->configurations.back(), view);
+        const auto& unsupported = part->unsupportedViews;
+        QCOMPARE(!drawing, std::find(unsupported.begin(), unsupported.end(), view) != unsupported.end());
+        if (!drawing)
+            continue;
+        checkDrawing(*drawing);
+        QCOMPARE(drawing->title, part->name);
+        const auto has = [&drawing](LineKind kind) {
+            return std::any_of(drawing->entities.begin(), drawing->entities.end(),
+                               [kind](const Entity& entity) { return entity.kind == kind; });
+        };
+        QVERIFY2(has(LineKind::Outline), view.c_str());
+        QCOMPARE(has(LineKind::Centre), !isPictorial(view));
+        QVERIFY2(!isPictorial(view) || !has(LineKind::Hidden), view.c_str());
+        QVERIFY2(drawing->entities.size() < 400, view.c_str());
+        const QString twice = drawnTwice(*drawing);
+        QVERIFY2(twice.isEmpty(), qPrintable(QString::fromStdString(view) + ": " + twice));
+        const QString loose = looseOutline(*drawing);
+        QVERIFY2(hasLooseEnds || loose.isEmpty(), qPrintable(QString::fromStdString(view) + ": " + loose));
+    }
+}
+
+void PartDrawingTest::everyPartDraws()
+{
+    for (const Part& part : m_catalog.parts())
+        QVERIFY2(!drawn(part, "RIGHT").entities.empty(), part.name.c_str());
+}
+
+void PartDrawingTest::viewsShowTheDimensions_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("view");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<double>("height");
+    QTest::addColumn<QString>("lines");
+    const auto row = [](const char* family, const char* size, const char* view, double width, double height,
+                        const char* lines = "") {
+        QTest::newRow(qPrintable(QString("%1 %2 %3").arg(family, size, view)))
+            << family << QString::fromUtf8(size) << view << width << height << lines;
+    };
+    const double corners = 2 / std::sqrt(3.0);
+    // Where lines are counted, some edges are to be seen from one side only, such as a socket's six.
+    row("hex-bolt", "M8 x 50", "FRONT", 5.53, 1.3 * corners);
+    row("hex-bolt", "M8 x 50", "TOP", 5.53, 1.3);
+    row("socket-screw", "M8 x 40", "LEFT", 1.3, 1.3, "6/0/1 0/0/2 2/0/0");
+    row("socket-screw", "M8 x 40", "RIGHT", 1.3, 1.3, "0/0/3 6/0/0 2/0/0");
+    row("socket-screw", "M8 x 40", "BACK", 4.8, 1.3, "13/0/0 5/0/0 1/0/0");
+    row("hex-nut", "M10, height 8.4", "FRONT", 1.6 * corners, 0.84);
+    row("washer", "M10, thickness 2", "TOP", 2, 2, "0/0/2 0/0/0 2/0/0");
+    row("washer", "M10, thickness 2", "LEFT", 2, 0.2, "4/0/0 2/0/0 1/0/0");
+    row("dowel-pin", "8 m6 x 50", "FRONT", 5, 0.8);
+    row("ball-bearing", "6204 open", "TOP", 4.7, 1.4);
+    row("spur-gear", "M2 Z24, bore 18", "FRONT", 5.2, 5.2, "3/98/1 0/0/0 2/0/1");
+    row("spur-gear", "M2 Z24, bore 18", "RIGHT", 3.2, 5.2, "7/0/0 3/0/0 3/0/0");
+    row("v-belt-pulley", "SPA 125-2, bore 30", "TOP", 13.06, 3.5);
+    row("compression-spring", "2 x 20, free length 50", "TOP", 2, 2);
+    row("angle-bracket", "50x30 x 60", "FRONT", 5, 3, "6/2/0 4/0/0 2/0/0");
+    row("angle-bracket", "50x30 x 60", "TOP", 5, 6, "5/0/2 4/0/0 6/0/0");
+    row("angle-bracket", "50x30 x 60", "RIGHT", 6, 3, "5/0/2 4/0/0 6/0/0");
+    row("aluminium-profile", "40x40, 160 mm", "TOP", 16, 4);
+    row("pipe-flange", "DN 50, thickness 20", "RIGHT", 4.5, 16.5);
+    row("bridge-handle", "128, height 50", "RIGHT", 1.62, 5);
+    row("enclosure", "120x80 x 65", "TOP", 12, 8);
+    row("stepper-motor", "57-76", "TOP", 9.7, 5.64);
+    row("pneumatic-cylinder", "32-100", "BOTTOM", 9.4 + 10 + 0.95 * 2.7 + 2.2, 4.7);
+}
+
+void PartDrawingTest::viewsShowTheDimensions()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, size);
+    QFETCH(QString, view);
+    QFETCH(double, width);
+    QFETCH(double, height);
+    QFETCH(QString, lines);
+    const Drawing drawing = drawnFromCatalog(family, size, view);
+    const Extents extents = extentsOf(edgesOf(drawing)).value();
+    QVERIFY2(std::abs(extents.width() - width) < 1e-6, qPrintable(QString::number(extents.width())));
+    QVERIFY2(std::abs(extents.height() - height) < 1e-6, qPrintable(QString::number(extents.height())));
+    if (!lines.isEmpty())
+        QCOMPARE(tally(drawing), lines);
+}
+
+void PartDrawingTest::symmetricPartsHaveSymmetricViews_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QStringList>("leftAndRight");
+    QTest::addColumn<QStringList>("aboveAndBelow");
+    const auto row = [](const char* family, const QStringList& leftAndRight,
+                        const QStringList& aboveAndBelow) {
+        QTest::newRow(family) << family << leftAndRight << aboveAndBelow;
+    };
+    row("hex-nut", {"FRONT", "RIGHT"}, {"FRONT", "RIGHT"});
+    row("washer", {"FRONT", "TOP"}, {"FRONT", "TOP"});
+    row("enclosure", {"FRONT", "TOP", "RIGHT", "BOTTOM"}, {"TOP", "BOTTOM"});
+    row("ball-bearing", {"FRONT", "TOP"}, {"FRONT", "RIGHT"});
+    row("v-belt-pulley", {"FRONT", "TOP"}, {"FRONT", "RIGHT"});
+    row("pipe-flange", {"FRONT", "TOP", "BOTTOM"}, {"FRONT", "RIGHT", "LEFT"});
+    row("pillow-block", {"FRONT", "TOP", "BACK"}, {});
+    row("spur-gear", {"FRONT", "TOP"}, {}); // The keyway is on one side.
+    row("hex-bolt", {"LEFT", "RIGHT"}, {"FRONT", "TOP", "BACK"});
+    row("aluminium-profile", {"LEFT", "RIGHT"}, {"FRONT", "TOP"});
+    row("pneumatic-cylinder", {"LEFT", "RIGHT"}, {"TOP", "BOTTOM"});
+    row("bridge-handle", {"FRONT", "TOP", "RIGHT"}, {"TOP"});
+    row("star-knob", {"FRONT", "TOP"}, {});
+}
+
+/// What is hidden on one side cannot be seen on the other, and nothing is missing there.
+void PartDrawingTest::symmetricPartsHaveSymmetricViews()
+{
+    QFETCH(QString, family);
+    QFETCH(QStringList, leftAndRight);
+    QFETCH(QStringList, aboveAndBelow);
+    for (const QString& view : leftAndRight) {
+        const QString found = lonely(drawnFromCatalog(family, "", view), true);
+        QVERIFY2(found.isEmpty(), qPrintable(view + ": " + found));
+    }
+    for (const QString& view : aboveAndBelow) {
+        const QString found = lonely(drawnFromCatalog(family, "", view), false);
+        QVERIFY2(found.isEmpty(), qPrintable(view + ", above and below: " + found));
+    }
+}
+
+/// The ends of a spring differ from side to side, but not one of its turns.
+void PartDrawingTest::springsLookAlikeFromAllSides()
+{
+    const auto outlineLength = [](const Part& part, const char* view) {
+        double sum = 0;
+        for (const DrawingPiece& piece : piecesOf(drawn(part, view), LineKind::Outline))
+            sum += piece.length();
+        return sum;
+    };
+    for (const Part& part : m_catalog.parts()) {
+        if (part.family != "compression-spring")
+            continue;
+        const double front = outlineLength(part, "FRONT");
+        for (const char* view : {"RIGHT", "BACK", "LEFT"})
+            QVERIFY2(std::abs(outlineLength(part, view) / front - 1) < 0.05, part.name.c_str());
+    }
+}
+
+void PartDrawingTest::multipleViewsLieBesideOneAnother()
+{
+    const auto drawn = [this](const char* view) { return drawnFromCatalog("angle-bracket", "", view); };
+    const Drawing all = drawn("4VIEW");
+    QCOMPARE(drawn("MULTI").entities.size() + drawn("ISOMETRIC").entities.size(), all.entities.size());
+    auto next = all.entities.begin();
+    const auto extentsOfNext = [&](const char* view) {
+        const auto begin = std::exchange(next, next + std::ptrdiff_t(drawn(view).entities.size()));
+        return extentsOf(edgesOf({"", {begin, next}})).value();
+    };
+    const Extents front = extentsOfNext("FRONT");
+    const Extents above = extentsOfNext("TOP");
+    const Extents beside = extentsOfNext("RIGHT");
+    const Extents picture = extentsOfNext("ISOMETRIC");
+    QVERIFY(next == all.entities.end());
+    QVERIFY(above.min.y > front.max.y);
+    QCOMPARE(above.min.x, front.min.x);
+    QVERIFY(beside.min.x > front.max.x);
+    QCOMPARE(beside.min.y, front.min.y);
+    QVERIFY(picture.min.x > front.max.x && picture.min.x > above.max.x);
+    QVERIFY(picture.min.y > front.max.y && picture.min.y > beside.max.y);
+}
+
+void PartDrawingTest::thumbnailsShowTheParts()
+{
+    QMap<QString, QImage> pictures;
+    for (const Part& part : m_catalog.parts()) {
+        const QString family = QString::fromStdString(part.family);
+        if (pictures.contains(family))
+            continue;
+        const std::string png = drawThumbnail(part, 100, 80);
+        const QImage picture = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+        QCOMPARE(picture.size(), QSize(100, 80));
+        QCOMPARE(qAlpha(picture.pixel(0, 0)), 0);
+        int opaque = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                opaque += qAlpha(picture.pixel(x, y)) == 255 ? 1 : 0;
+        QVERIFY2(opaque > 300, qPrintable(family));
+        QVERIFY2(!pictures.values().contains(picture), qPrintable(family));
+        pictures.insert(family, picture);
+    }
+}
+
+QTEST_GUILESS_MAIN(PartDrawingTest)
+#include "PartDrawingTest.moc"

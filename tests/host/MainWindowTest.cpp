@@ -1,0 +1,421 @@
+#include "dev/host/window/MainWindow.h"
+#include "dev/dwg/Writer.h"
+#include "dev/host/window/CommandLine.h"
+#include "dev/host/window/DrawingArea.h"
+#include "dev/host/window/PlacementPrompt.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
+using devhost::BlockPromptAnswer;
+using devhost::MainWindow;
+
+namespace
+{
+
+const pvString appID(L"APP");
+
+bool countRun(void* context)
+{
+    ++*static_cast<int*>(context);
+    return true;
+}
+
+/// What an add-in gets from the prompt.
+struct Placement {
+    double x = 0.0, y = 0.0, z = 0.0, scaleX = 1.0, scaleY = 1.0, scaleZ = 1.0, rotation = 0.0;
+    pvPromptResultType_e result{};
+
+    bool isAccepted() const { return int(result) == BlockPromptAnswer::Accepted; }
+};
+
+} // namespace
+
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void clickPlacesTheBlock();
+    void placementCanBeTyped();
+    void promptIsCancelled_data();
+    void promptIsCancelled();
+    void windowMayEndDuringThePrompt();
+    void unreadableFileIsPromptedForAsACross();
+    void promptNeedsADrawing();
+    void commandsAreRunByName();
+    void userCommandShowsOnMenuAndRibbon();
+    void paneIsDockedAroundANativeWidget();
+    void drawingsOpenSwitchAndClose();
+    void wheelZoomsAroundTheCursorAndMiddleButtonPans();
+
+private:
+    /// Has the add-in's side prompt for the file and insert the block, as add-ins do; @p user acts meanwhile.
+    Placement place(const QString& file, const std::function<void()>& user);
+    void type(const QString& text);
+    /// Registers a command as add-ins do, which counts its runs.
+    void registerCommand(const wchar_t* name, int* runs);
+    std::vector<std::shared_ptr<devhost::HostBlockInstance>> blocks() const;
+    QString drawingFile(const QByteArray& bytes);
+
+    std::unique_ptr<test::FatalWarnings> m_warnings;
+    std::unique_ptr<MainWindow> m_window;
+    QTemporaryDir m_folder;
+    QString m_file; // A good drawing: a square of side 4 with its centre line.
+};
+
+void MainWindowTest::init()
+{
+    m_warnings = std::make_unique<test::FatalWarnings>();
+    dwg::Drawing square;
+    square.entities = {
+        {dwg::LineKind::Outline,
+         dwg::Polyline{{{{-2.0, -2.0}}, {{2.0, -2.0}}, {{2.0, 2.0}}, {{-2.0, 2.0}}}, true}},
+        {dwg::LineKind::Centre, dwg::LineSegment{{-3.0, 0.0}, {3.0, 0.0}}},
+    };
+    m_file = drawingFile(QByteArray::fromStdString(dwg::writeDwg(square)));
+    m_window = std::make_unique<MainWindow>(devhost::HostSettings());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    m_window->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+}
+
+void MainWindowTest::cleanup()
+{
+    m_window.reset();
+    m_warnings.reset();
+}
+
+Placement MainWindowTest::place(const QString& file, const std::function<void()>& user)
+{
+    Placement placed;
+    devhost::HostApplication& host = m_window->host();
+    pvCommandMessage_c* message = nullptr;
+    host.GetCommandMessage(&message);
+    pvDocument_c* document = nullptr;
+    pvModel_c* model = nullptr;
+    pvSketchManager_c* manager = nullptr;
+    if (host.GetActiveDocument(&document) == PVRESULT_True) {
+        document->GetModel(&model);
+        model->GetSketchManager(&manager);
+    }
+    const pvString path(file.toStdWString().c_str());
+    QTimer::singleShot(0, this, user);
+    message->PromptForBlockInsertion(path, true, 1.0, 1.0, 1.0, true, 0.0, &placed.x, &placed.y, &placed.z,
+                                     &placed.scaleX, &placed.scaleY, &placed.scaleZ, &placed.rotation,
+                                     &placed.result);
+    if (placed.isAccepted())
+        manager->InsertBlock2(path, placed.x, placed.y, placed.z, placed.scaleX, placed.scaleY, placed.scaleZ,
+                              placed.rotation, nullptr);
+    return placed;
+}
+
+void MainWindowTest::type(const QString& text)
+{
+    QTest::keyClicks(m_window->commandLine().input(), text);
+    QTest::keyClick(m_window->commandLine().input(), Qt::Key_Return);
+}
+
+void MainWindowTest::registerCommand(const wchar_t* name, int* runs)
+{
+    pvCommand_c* command = nullptr;
+    m_window->host().CreateCommand(appID, name, nullptr, &command);
+    command->RegisterEvent(pvCommandEvent_id_e(1), runs, reinterpret_cast<void*>(&countRun));
+}
+
+std::vector<std::shared_ptr<devhost::HostBlockInstance>> MainWindowTest::blocks() const
+{
+    return m_window->host().activeDocument()->blocks().objects();
+}
+
+QString MainWindowTest::drawingFile(const QByteArray& bytes)
+{
+    QString path = m_folder.filePath("part0.dwg");
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("The test's file cannot be written");
+    return path;
+}
+
+void MainWindowTest::clickPlacesTheBlock()
+{
+    devhost::DrawingArea& area = m_window->drawingArea();
+    const QPoint pixel = area.toPixel({12.0, 7.0});
+    const Placement placed = place(m_file, [&] {
+        QVERIFY(area.isBlockAtCursor());
+        QCOMPARE(m_window->commandLine().prompt(),
+                 QString("Specify insertion point or [Scale/Rotate/Cancel]:"));
+        QTest::mouseMove(&area, pixel);
+        QTest::mouseClick(&area, Qt::LeftButton, Qt::NoModifier, pixel);
+    });
+    QVERIFY(placed.isAccepted());
+    QCOMPARE(area.toPixel({placed.x, placed.y}), pixel);
+    QVERIFY(!area.isBlockAtCursor());
+    QVERIFY(m_window->currentPrompt() == nullptr);
+    QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
+
+    QCOMPARE(blocks().size(), std::size_t(1));
+    QCOMPARE(blocks().front()->name(), QString("part0"));
+    const QPoint onEdge = area.toPixel({placed.x - 2.0, placed.y + 1.0});
+    const QImage image = area.grab(QRect(onEdge - QPoint(1, 1), QSize(3, 3))).toImage();
+    QVERIFY(qGray(image.pixel(0, 1)) < 100 ||
+            qGray(image.pixel(1, 1)) < 100); // The outline is black on light.
+}
+
+void MainWindowTest::placementCanBeTyped()
+{
+    const Placement placed = place(m_file, [&] {
+        for (const char* wrong : {"12", "1,2,3,4", "a,b", "1,nan", "1,inf", "3DPH", ""})
+            type(wrong);
+        QCOMPARE(m_window->commandLine().history().count("A point is wanted as x,y."), 7);
+        for (const char* text : {"s", "0", "2.5", "r", "x", "90", "r", ""})
+            type(text);
+        // Keys typed over the drawing go to the command line.
+        m_window->drawingArea().setFocus();
+        QTest::keyClicks(&m_window->drawingArea(), "1");
+        QTest::keyClicks(m_window->commandLine().input(), "2.5 , -3 , 2 ");
+        QTest::keyClick(m_window->commandLine().input(), Qt::Key_Enter);
+    });
+    QVERIFY(placed.isAccepted());
+    QCOMPARE(placed.x, 12.5);
+    QCOMPARE(placed.y, -3.0);
+    QCOMPARE(placed.z, 2.0);
+    QCOMPARE(placed.scaleX, 2.5);
+    QCOMPARE(placed.scaleZ, 2.5);
+    QVERIFY(qAbs(placed.rotation - 1.5707963) < 1e-6);
+    QCOMPARE(blocks().front()->placement().x, 12.5);
+}
+
+void MainWindowTest::promptIsCancelled_data()
+{
+    QTest::addColumn<std::function<void()>>("user");
+    const auto row = [](const char* name, const std::function<void()>& user) { QTest::newRow(name) << user; };
+    row("Esc over the drawing", [this] { QTest::keyClick(&m_window->drawingArea(), Qt::Key_Escape); });
+    row("Esc in the command line", [this] {
+        m_window->commandLine().input()->setFocus();
+        QTest::keyClick(m_window->commandLine().input(), Qt::Key_Escape);
+    });
+    row("Esc elsewhere in the window", [this] {
+        auto* text = m_window->findChild<QPlainTextEdit*>("commandHistory");
+        text->setFocus();
+        QTest::keyClick(text, Qt::Key_Escape);
+    });
+    row("typed", [this] { type("cancel"); });
+    row("window closed", [this] { m_window->close(); });
+    row("new drawing", [this] { m_window->runCommand("new"); });
+    row("drawing closed", [this] { m_window->runCommand("CLOSE"); });
+}
+
+void MainWindowTest::promptIsCancelled()
+{
+    QFETCH(const std::function<void()>, user);
+    const Placement placed = place(m_file, user);
+    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
+    QCOMPARE(placed.x, 0.0);
+    QVERIFY(!m_window->drawingArea().isBlockAtCursor());
+    QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
+    QVERIFY(m_window->currentPrompt() == nullptr);
+}
+
+void MainWindowTest::windowMayEndDuringThePrompt()
+{
+    const Placement placed = place(m_file, [&] { m_window.reset(); });
+    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
+}
+
+void MainWindowTest::unreadableFileIsPromptedForAsACross()
+{
+    const QString file = drawingFile("noise");
+    const QString line = "Cannot read part0.dwg: it is not a DWG file.";
+    const Placement placed = place(file, [&] {
+        QCOMPARE(m_window->commandLine().history().count(line), 1);
+        QVERIFY(m_window->drawingArea().isBlockAtCursor());
+        type("1,1");
+    });
+    QVERIFY(placed.isAccepted());
+    QVERIFY(blocks().empty());
+    QCOMPARE(m_window->commandLine().history().last(), line + " No block was inserted.");
+}
+
+void MainWindowTest::promptNeedsADrawing()
+{
+    m_window->host().closeActiveDocument();
+    const Placement placed = place(m_file, [] {});
+    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
+    QCOMPARE(m_window->commandLine().history().last(), QString("No drawing is open to place a block in."));
+}
+
+void MainWindowTest::commandsAreRunByName()
+{
+    int runs = 0;
+    registerCommand(L"3DPH", &runs);
+    type("3dph");
+    QCOMPARE(runs, 1);
+    QVERIFY(m_window->commandLine().history().contains("Command: 3dph"));
+    type(""); // Repeats.
+    QCOMPARE(runs, 2);
+    type("GRID");
+    QVERIFY(!m_window->drawingArea().isGridVisible());
+    type("LINE");
+    QCOMPARE(m_window->commandLine().history().last(), QString("LINE is not part of the development host."));
+    type("3DP");
+    QCOMPARE(m_window->commandLine().history().last(),
+             QString("Unknown command \"3DP\". HELP lists the commands."));
+
+    QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
+    QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
+    QCOMPARE(m_window->commandLine().input()->text(), QString("LINE"));
+}
+
+void MainWindowTest::userCommandShowsOnMenuAndRibbon()
+{
+    QPixmap pixmap(32, 32);
+    pixmap.fill(Qt::red);
+    const QString icon = m_folder.filePath("icon.png");
+    QVERIFY(pixmap.save(icon));
+
+    int runs = 0;
+    registerCommand(L"PARTS", &runs);
+    devhost::HostApplication& host = m_window->host();
+    const pvString iconPath(icon.toStdWString().c_str());
+    pvUserCommand_c* userCommand = nullptr;
+    host.CreateUserCommand(appID, L"PARTS", L"^C^CPARTS", L"Finds parts", iconPath, iconPath, pvUIState_e(2),
+                           nullptr, &userCommand);
+    pvString id;
+    userCommand->GetID(&id);
+    host.menus().objects().at(4)->InsertMenuItem(appID, pvMenuItemType_e(2), 3, L"Parts entry", id, nullptr);
+    const auto tab = host.workspaces().objects().front()->tabs().objects().back();
+    tab->panels().objects().front()->row()->InsertRibbonCommandButton(appID, pvRibbonButtonStyle_e(1),
+                                                                      L"Parts button", id, nullptr);
+
+    auto* menu = m_window->findChild<QMenu*>("ID_Import");
+    QVERIFY(menu != nullptr);
+    QAction* entry = menu->actions().value(3);
+    QCOMPARE(entry->text(), QString("Parts entry"));
+    QCOMPARE(entry->icon().pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
+    auto* button = m_window->findChild<QToolButton*>("UserCommand_PARTS");
+    QVERIFY(button != nullptr);
+    QCOMPARE(button->text(), QString("Parts button"));
+    QCOMPARE(button->toolTip(), QString("Finds parts"));
+
+    entry->trigger();
+    button->click();
+    QCOMPARE(runs, 2);
+    // Its macro gives up what is going on.
+    QCOMPARE(int(place(m_file, [&] { button->click(); }).result), int(BlockPromptAnswer::Cancelled));
+    QCOMPARE(runs, 3);
+
+    host.RemoveUserInterface(appID);
+    QVERIFY(m_window->findChild<QToolButton*>("UserCommand_PARTS") == nullptr);
+    QCOMPARE(m_window->findChild<QMenu*>("ID_Import")->actions().size(), 5);
+    QCOMPARE(m_window->findChild<QPlainTextEdit*>("journalText")->toPlainText(),
+             host.journal().lines().join('\n'));
+}
+
+void MainWindowTest::paneIsDockedAroundANativeWidget()
+{
+    pvCustomPropertyControl_c* control = nullptr;
+    m_window->host().CreateCustomPropertyControl2(L"Parts", pvCustomPropertyControlArea_e(2), 3, &control);
+    const auto isVisible = [&] {
+        bool visible = false;
+        control->get_Visible(&visible);
+        return visible;
+    };
+    long handle = 0;
+    control->GetHWND(&handle);
+    QPointer<QWidget> content = QWidget::find(static_cast<WId>(static_cast<qint32>(handle)));
+    QVERIFY(content);
+    QVERIFY(content->layout() == nullptr);
+    auto* dock = m_window->findChild<QDockWidget*>("pane");
+    QCOMPARE(dock->windowTitle(), QString("Parts"));
+    QCOMPARE(dock->widget(), content.data());
+
+    content->setMinimumWidth(350);
+    QVERIFY(!isVisible());
+    control->put_Visible(true);
+    QTRY_VERIFY(content->isVisible() && content->width() >= 350);
+    for (const bool floating : {true, false}) {
+        m_warnings->expect(QtWarningMsg, "This plugin does not support setParent!");
+        dock->setFloating(floating);
+        QVERIFY(isVisible());
+        QTRY_VERIFY(content->isVisible());
+    }
+    dock->close(); // As the user does.
+    QVERIFY(!isVisible());
+
+    control->Destroy();
+    QVERIFY(content.isNull());
+    QVERIFY(m_window->findChild<QDockWidget*>("pane") == nullptr);
+}
+
+void MainWindowTest::drawingsOpenSwitchAndClose()
+{
+    auto* tabs = m_window->findChild<QTabBar*>("documentTabs");
+    QVERIFY(place(m_file, [&] { type("3,4"); }).isAccepted());
+    type("NEW");
+    QCOMPARE(tabs->count(), 2);
+    QVERIFY(blocks().empty());
+    QVERIFY(m_window->windowTitle().contains("Drawing2"));
+
+    QTest::mouseClick(tabs, Qt::LeftButton, Qt::NoModifier, tabs->tabRect(0).center());
+    QCOMPARE(blocks().size(), std::size_t(1));
+    QCOMPARE(tabs->currentIndex(), 0);
+
+    qobject_cast<QToolButton*>(tabs->tabButton(1, QTabBar::RightSide))->click();
+    QCOMPARE(tabs->tabText(0), QString("Drawing1"));
+    type("CLOSE");
+    QCOMPARE(tabs->count(), 0);
+    QVERIFY(m_window->drawingArea().document() == nullptr);
+    type("CLOSE");
+    type("ZOOMEXTENTS");
+    QVERIFY(!m_window->drawingArea().grab().isNull());
+}
+
+void MainWindowTest::wheelZoomsAroundTheCursorAndMiddleButtonPans()
+{
+    devhost::DrawingArea& area = m_window->drawingArea();
+    const QPoint cursor(150, 90);
+    const QPointF under = area.toModel(cursor);
+    const double unitBefore = area.toModel({1.0, 0.0}).x() - area.toModel({0.0, 0.0}).x();
+    QWheelEvent wheel(cursor, area.mapToGlobal(cursor), QPoint(), QPoint(0, 240), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&area, &wheel);
+    const QPointF after = area.toModel(cursor);
+    QVERIFY(qAbs(after.x() - under.x()) < 1e-9 && qAbs(after.y() - under.y()) < 1e-9);
+    QVERIFY(area.toModel({1.0, 0.0}).x() - area.toModel({0.0, 0.0}).x() < unitBefore);
+
+    QTest::mousePress(&area, Qt::MiddleButton, Qt::NoModifier, cursor);
+    QMouseEvent move(QEvent::MouseMove, cursor + QPoint(40, -25), Qt::NoButton, Qt::MiddleButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&area, &move);
+    QTest::mouseRelease(&area, Qt::MiddleButton, Qt::NoModifier, cursor + QPoint(40, -25));
+    QCOMPARE(area.toPixel(under), cursor + QPoint(40, -25));
+
+    const QPointF centre = area.toModel(area.rect().center());
+    place(m_file, [&] { type(QString("%1,%2").arg(centre.x()).arg(centre.y())); });
+    for (int i = 0; i < 200; ++i) // To the limit, where painting dashes has to end as well.
+        area.zoomIn();
+    QVERIFY(!area.grab().isNull());
+    for (int i = 0; i < 400; ++i)
+        area.zoomOut();
+    QVERIFY(!area.grab().isNull());
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "dev/catalog/CatalogServer.h"
+#include "dev/catalog/parts/PartCatalog.h"
+#include "dev/host/model/AddInLibrary.h"
+#include "dev/host/model/HostApplication.h"
+#include "tests/host/ScriptedHostView.h"
+#include "tests/support/ConnectProxy.h"
+#include "tests/support/FatalWarnings.h"
+#include "tests/support/MessageBoxAnswerer.h"
+
+#include <QSslConfiguration>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+
+class QLabel;
+
+namespace test
+{
+
+/**
+ * The built library in a host, before the development catalog over HTTPS, in a current directory of its own.
+ * The steps of a user wait for their outcome, or until a reply is held.
+ *
+ * Made in init() and destroyed in cleanup() (see FatalWarnings).
+ */
+class ScenarioFixture
+{
+public:
+    /// Starts the catalog and loads the library.
+    ScenarioFixture();
+    ~ScenarioFixture();
+    ScenarioFixture(const ScenarioFixture&) = delete;
+    ScenarioFixture& operator=(const ScenarioFixture&) = delete;
+
+    const devcatalog::CatalogServer& server() const { return m_server; }
+    const devcatalog::PartCatalog& parts() const { return m_parts; }
+    /// Stops the catalog, and lets the event loop turn until its last replies are out.
+    void stopCatalog();
+    /// Starts it again; it knows no session of before.
+    void restartCatalog();
+    devhost::AddInLibrary& library() { return m_library; }
+    devhost::HostApplication& host() { return *m_host; }
+    ScriptedHostView& view() { return m_view; }
+    /// @return the texts of the message boxes so far; each was closed by its button.
+    QStringList boxTexts() const;
+    /// @return the names of the files in the current directory.
+    static QStringList files();
+
+    /// Has the catalog keep back its replies to an operation, or to paths that begin with a text.
+    void hold(const QString& operationOrPath);
+    bool isHeld();
+    /// Lets all replies go, also later ones.
+    void release();
+
+    /// Connects, and waits until the add-in has its key from the catalog.
+    void connect();
+    /// Waits until the session has got so many replies with a text in them, or so many without any text.
+    void waitForReplies(const QString& content, int count);
+    /// Waits for the box with the outcome.
+    void logIn();
+    void searchFor(const QString& term);
+    void turnToPage(const QString& page);
+    /// Waits for other results than those, with their pictures.
+    void waitForResults(const QStringList& others = {});
+    /// Clicks a thumbnail, and waits for configuration and preview.
+    void openPart(int row);
+    void chooseView(const QString& view);
+    /// Waits until a drawing was offered and is gone again.
+    void clickPreview();
+    void goBack();
+
+    /// @return the pane's widget of that class and name that is on its page; null when there is none.
+    template <class Widget = QWidget>
+    Widget* shown(const QString& name = QString()) const
+    {
+        if (m_view.paneWidget() == nullptr)
+            return nullptr;
+        for (Widget* widget : m_view.paneWidget()->findChildren<Widget*>(name))
+            if (widget->isVisible())
+                return widget;
+        return nullptr;
+    }
+    /// @return the result rows that are shown, from top to bottom.
+    QVector<QWidget*> rows() const;
+    QStringList rowNames() const;
+    /// @return whether there are rows, and each has its picture.
+    bool hasPictures() const;
+    /// The labels of the shown detail page; null when none is shown.
+    QLabel* configurationName() const;
+    QLabel* preview() const;
+
+private:
+    devcatalog::CatalogServerOptions options();
+    void keepBack(const devcatalog::HttpRequest& request);
+    void waitFor(const std::function<bool()>& condition);
+    void openTab(int index);
+    QLabel* detailLabel(bool (*isWanted)(const QLabel&)) const;
+
+    FatalWarnings m_warnings;
+    QTemporaryDir m_certificateFolder;
+    QTemporaryDir m_currentFolder;
+    QString m_folderBefore;
+    QSslConfiguration m_tlsBefore;
+
+    std::mutex m_mutex; ///< guards what the catalog's threads use
+    std::condition_variable m_released;
+    std::string m_heldKey; ///< empty when nothing is held
+    int m_heldCount = 0;
+
+    devcatalog::PartCatalog m_parts;
+    devcatalog::CatalogServer m_server;
+    std::unique_ptr<ConnectProxy> m_proxy;
+    MessageBoxAnswerer m_answerer;
+    ScriptedHostView m_view;
+    std::shared_ptr<devhost::HostApplication> m_host;
+    devhost::AddInLibrary m_library;
+};
+
+} // namespace test
