@@ -51,7 +51,7 @@ public:
     /// @return false when the host gives no pane, or no widget for it.
     bool createDockWidget();
 
-    /// Sets the toolkit's default locale to the host's language and installs its translation; an unknown
+    /// Sets Qt's default locale to the host's language and installs its translation; an unknown
     /// language leaves the locale and installs an empty translator.
     void LoadTranslator();
     /// Takes the translator out and deletes it. The locale stays.

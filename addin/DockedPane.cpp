@@ -19,7 +19,7 @@ constexpr auto PaneArea = static_cast<pvCustomPropertyControlArea_e>(2);
 constexpr long PaneValue = 3;
 constexpr int MinimumPaneWidth = 350;
 
-/// The host's widget behind a pane: host and add-in share the toolkit.
+/// The host's widget behind a pane: host and add-in share Qt.
 QWidget* widgetOf(pvCustomPropertyControl_c* control)
 {
     long handle = 0;

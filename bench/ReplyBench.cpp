@@ -39,8 +39,8 @@ SearchResults ours(const QByteArray& bytes, int limit)
     return parser.GetSearchResults(qMin(parser.GetActualItemCount(), limit));
 }
 
-/// All that the toolkit takes for the same four lists.
-SearchResults toolkitOnly(const QByteArray& bytes, int limit)
+/// All that Qt takes for the same four lists.
+SearchResults qtOnly(const QByteArray& bytes, int limit)
 {
     SearchResults results;
     QDomDocument document;
@@ -64,7 +64,7 @@ void add(const std::string& name, const QByteArray& reply, int limit)
     });
     benchmark::RegisterBenchmark((name + "/floor").c_str(), [=](benchmark::State& state) {
         for (auto _ : state)
-            benchmark::DoNotOptimize(toolkitOnly(reply, limit));
+            benchmark::DoNotOptimize(qtOnly(reply, limit));
     });
 }
 

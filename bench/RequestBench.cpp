@@ -15,18 +15,18 @@ namespace
 
 using Values = std::initializer_list<SoapValue>;
 
-const Values noValues;
-const Values keyValues{{"sessionId", "0123456789abcdef"}};
-const Values loginValues{
+const Values NoValues;
+const Values KeyValues{{"sessionId", "0123456789abcdef"}};
+const Values LoginValues{
     {"apiKey", "0123456789abcdef"}, {"userId", "user@example.test"}, {"password", "secret"}};
-const Values searchValues{{"apiKey", "0123456789abcdef"}, {"searchTerm", "hex bolt"}, {"pageNumber", "1"}};
-const Values infoValues{
+const Values SearchValues{{"apiKey", "0123456789abcdef"}, {"searchTerm", "hex bolt"}, {"pageNumber", "1"}};
+const Values InfoValues{
     {"apiKey", "0123456789abcdef"}, {"supplierName", "Supplier"}, {"modelName", "Hex bolt M8 x 40"}};
-const Values paramsValues{{"apiKey", "0123456789abcdef"},
+const Values ParamsValues{{"apiKey", "0123456789abcdef"},
                           {"supplierName", "Supplier"},
                           {"modelName", "Hex bolt M8 x 40"},
                           {"configName", "M8 x 40"}};
-const Values downloadValues{{"apiKey", "0123456789abcdef"},
+const Values DownloadValues{{"apiKey", "0123456789abcdef"},
                             {"userToken", "0123456789abcdef"},
                             {"supplierName", "Supplier"},
                             {"modelName", "Hex bolt M8 x 40"},
@@ -41,7 +41,7 @@ QByteArray templateOf(const ServiceOperation& operation)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray toolkitOnly(const QByteArray& envelope, Values values)
+QByteArray qtOnly(const QByteArray& envelope, Values values)
 {
     QDomDocument document;
     document.setContent(envelope);
@@ -63,7 +63,7 @@ void add(const ServiceOperation& operation, const Values& values)
     benchmark::RegisterBenchmark((name + "/floor").c_str(), [&](benchmark::State& state) {
         const QByteArray envelope = templateOf(operation);
         for (auto _ : state)
-            benchmark::DoNotOptimize(toolkitOnly(envelope, values));
+            benchmark::DoNotOptimize(qtOnly(envelope, values));
     });
 }
 
@@ -71,11 +71,11 @@ void add(const ServiceOperation& operation, const Values& values)
 
 void addRequestBenchmarks()
 {
-    add(ServiceLoginOperation, noValues);
-    add(GenerateApiKeyOperation, keyValues);
-    add(UserLoginOperation, loginValues);
-    add(SearchOperation, searchValues);
-    add(GetConfigInfoOperation, infoValues);
-    add(GetConfigParamsOperation, paramsValues);
-    add(GetDownload2DOperation, downloadValues);
+    add(ServiceLoginOperation, NoValues);
+    add(GenerateApiKeyOperation, KeyValues);
+    add(UserLoginOperation, LoginValues);
+    add(SearchOperation, SearchValues);
+    add(GetConfigInfoOperation, InfoValues);
+    add(GetConfigParamsOperation, ParamsValues);
+    add(GetDownload2DOperation, DownloadValues);
 }

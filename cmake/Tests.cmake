@@ -1,7 +1,7 @@
 # dockwidget_add_test(NAME FooTest SOURCES FooTest.cpp [LIBRARIES ...] [TIMEOUT seconds] [RESOURCE_LOCK name]
 #                     [ARGUMENTS ...])
 # A QtTest program and its CTest entry. It runs offscreen, in a home of its own in the build tree so that no
-# setting or cache of the person at the machine is read or written, and with the toolkit's logging as shipped.
+# setting or cache of the person at the machine is read or written, and with Qt's logging as shipped.
 # test_support and QtTest are always linked.
 function(dockwidget_add_test)
   cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;TIMEOUT;RESOURCE_LOCK" "SOURCES;LIBRARIES;ARGUMENTS")

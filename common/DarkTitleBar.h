@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// The only platform call of the add-in. This header and its implementations stay free of the toolkit, so that
+// The only platform call of the add-in. This header and its implementations stay free of Qt, so that
 // the Windows one compiles wherever a Windows compiler is.
 
 /// Sets an attribute of a native window with the desktop window manager.

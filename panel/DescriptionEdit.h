@@ -3,7 +3,7 @@
 #include <QTextEdit>
 
 /// A text edit whose text can be selected and changed, but not dragged. While text is being dragged the event
-/// loop runs, a late reply may take the row away, and the toolkit's text edit does not survive that.
+/// loop runs, a late reply may take the row away, and Qt's text edit does not survive that.
 class DescriptionEdit : public QTextEdit
 {
     Q_OBJECT

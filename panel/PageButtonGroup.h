@@ -5,7 +5,7 @@
 
 class QAbstractButton;
 
-/// The buttons of the page bar, two of which share an id. The toolkit's look-up by id answers either of the
+/// The buttons of the page bar, two of which share an id. Qt's look-up by id answers either of the
 /// two, so the group remembers which one the user pressed.
 class PageButtonGroup : public QButtonGroup
 {

@@ -28,7 +28,7 @@ install_packages() {
             >/dev/null || { echo "$0: the packages could not be installed:" $missing >&2; return 1; }
 }
 
-# What building needs, and what running needs besides: the toolkit's SVG plugin, without which every SVG icon is
+# What building needs, and what running needs besides: Qt's SVG plugin, without which every SVG icon is
 # blank, and fonts; Japanese, Chinese and Korean are among the languages to choose from.
 BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
     libcpp-httplib-dev libssl-dev libpugixml-dev libgdal-dev"

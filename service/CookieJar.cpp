@@ -12,8 +12,8 @@
 namespace
 {
 
-constexpr quint32 streamVersion = 23;
-constexpr int timeLimitInDays = 90;
+constexpr quint32 StreamVersion = 23;
+constexpr int TimeLimitInDays = 90;
 
 QStringList sorted(QStringList hosts)
 {
@@ -115,7 +115,7 @@ bool CookieJar::setCookiesFromUrl(const QList<QNetworkCookie>& cookies, const QU
     ensureLoaded();
     if (!mayStore(url.host(QUrl::FullyDecoded)))
         return false;
-    const QDateTime limit = QDateTime::currentDateTimeUtc().addDays(timeLimitInDays);
+    const QDateTime limit = QDateTime::currentDateTimeUtc().addDays(TimeLimitInDays);
     bool added = false;
     for (QNetworkCookie cookie : cookies) {
         if (m_keepPolicy == KeepUntilTimeLimit && !cookie.isSessionCookie() &&
@@ -194,7 +194,7 @@ void CookieJar::loadSettings()
 
 QDataStream& operator<<(QDataStream& stream, const QList<QNetworkCookie>& cookies)
 {
-    stream << streamVersion << static_cast<quint32>(cookies.size());
+    stream << StreamVersion << static_cast<quint32>(cookies.size());
     for (const QNetworkCookie& cookie : cookies)
         stream << cookie.toRawForm();
     return stream;
@@ -205,7 +205,7 @@ QDataStream& operator>>(QDataStream& stream, QList<QNetworkCookie>& cookies)
     cookies.clear();
     quint32 version = 0;
     stream >> version;
-    if (version != streamVersion)
+    if (version != StreamVersion)
         return stream;
     quint32 count = 0;
     stream >> count;

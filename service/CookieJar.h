@@ -25,9 +25,9 @@ class CookieJar : public QNetworkCookieJar
 public:
     /// Which sites may set cookies. The settings hold the names of these keys.
     enum AcceptPolicy {
-        AcceptAlways, ///< also cookies that the toolkit refuses, such as those for other domains
-        AcceptNever,  ///< only from the allowed and the session list
-        AcceptOnlyFromSitesNavigatedTo ///< as the toolkit's jar does
+        AcceptAlways,                  ///< also cookies that Qt refuses, such as those for other domains
+        AcceptNever,                   ///< only from the allowed and the session list
+        AcceptOnlyFromSitesNavigatedTo ///< as Qt's jar does
     };
     Q_ENUM(AcceptPolicy)
 

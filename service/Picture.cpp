@@ -23,7 +23,7 @@ bool isWebFormat(const QByteArray& format)
     return format == "png" || format == "jpeg" || format == "gif" || format == "bmp";
 }
 
-/// A PNG without what the toolkit reads besides the picture: texts, which a few bytes can make gigabytes of.
+/// A PNG without what Qt reads besides the picture: texts, which a few bytes can make gigabytes of.
 /// Chunks: a length, a type, the data, a checksum (W3C PNG, 5.3); critical ones have a capital first letter.
 QByteArray withoutTexts(const QByteArray& png)
 {
@@ -45,7 +45,7 @@ QByteArray withoutTexts(const QByteArray& png)
     return picture;
 }
 
-/// Of a cut JPEG the toolkit shows what there is. The end of the image (FF D9) stands behind the start of its
+/// Of a cut JPEG Qt shows what there is. The end of the image (FF D9) stands behind the start of its
 /// last scan (FF DA), and neither can stand in a scan's data (ITU-T T.81, B.1.1).
 bool isWithinJpegLimits(const QByteArray& bytes)
 {
@@ -54,7 +54,7 @@ bool isWithinJpegLimits(const QByteArray& bytes)
            bytes.count(startOfScan) <= MaximumScans;
 }
 
-/// Of a cut BMP the toolkit shows what there is, too. The file's length follows the signature
+/// Of a cut BMP Qt shows what there is, too. The file's length follows the signature
 /// (BITMAPFILEHEADER).
 bool isWholeBmp(const QByteArray& bytes)
 {
@@ -62,7 +62,7 @@ bool isWholeBmp(const QByteArray& bytes)
            static_cast<quint32>(bytes.size()) >= qFromLittleEndian<quint32>(bytes.constData() + 2);
 }
 
-/// Whether what the format leaves open is in order; the toolkit sees to the rest.
+/// Whether what the format leaves open is in order; Qt sees to the rest.
 bool isAcceptable(const QByteArray& format, const QByteArray& bytes)
 {
     return isWebFormat(format) && (format != "jpeg" || isWithinJpegLimits(bytes)) &&

@@ -6,7 +6,7 @@ class QNetworkReply;
 
 /// Ends a reply whose body grows beyond a limit. The network layer keeps the whole body in memory until it is
 /// read, and a service may send more than there is. To its asker such a reply is a failed one without a body.
-/// Of replies with status 401 or 407 the toolkit tells nothing before they are complete, nor of a reply's
+/// Of replies with status 401 or 407 Qt tells nothing before they are complete, nor of a reply's
 /// header lines: these it cannot end.
 ///
 /// Owned by the asker, not by the reply: the network manager, and with it the reply, may outlive the add-in

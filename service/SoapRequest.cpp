@@ -66,7 +66,7 @@ QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializ
         return nullptr; // the service could make nothing of it
 
     // No parent: it must outlive the asker's own children while a reply is being delivered. Asker and manager
-    // still go together, by the toolkit's code alone, which is there after the add-in has been unloaded.
+    // still go together, by Qt's code alone, which is there after the add-in has been unloaded.
     auto* manager = new QNetworkAccessManager;
     QNetworkReply* reply = manager->post(request, *body);
     QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, replySlot);

@@ -24,7 +24,7 @@ QString textOf(const QDomNode& element)
     return element.firstChild().nodeValue();
 }
 
-/// The first element of either name in document order. Unlike the toolkit's list it walks no further.
+/// The first element of either name in document order. Unlike Qt's list it walks no further.
 QDomElement firstElement(const QDomNode& parent, const QString& name, const QString& otherName)
 {
     for (QDomElement child = parent.firstChildElement(); !child.isNull();

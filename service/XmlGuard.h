@@ -7,7 +7,7 @@ class QDomDocument;
 /// The longest XML from outside that is read, in characters and in bytes. Real replies have some thousand.
 constexpr int MaximumXmlLength = 8 * 1000 * 1000;
 
-/// Parses XML from outside into a document, refusing what the toolkit's parser and its documents cannot bear.
+/// Parses XML from outside into a document, refusing what Qt's parser and its documents cannot bear.
 /// Refused without parsing is a text that
 ///  - nests elements deeper than 200 levels (real replies have about ten): the parser recurses, and some
 ///    thousand levels overflow the stack,

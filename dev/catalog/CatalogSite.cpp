@@ -14,9 +14,9 @@ namespace devcatalog
 namespace
 {
 
-const std::string thumbnailFolder = "Thumbnails/";
-const std::string thumbnailSuffix = ".png";
-const std::string drawingFolder = "Downloads/";
+const std::string ThumbnailFolder = "Thumbnails/";
+const std::string ThumbnailSuffix = ".png";
+const std::string DrawingFolder = "Downloads/";
 
 HttpReply page(int status, const std::string& title, const std::string& text)
 {
@@ -60,12 +60,12 @@ CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog)
 
 std::string CatalogSite::thumbnailPath(const Part& part) const
 {
-    return thumbnailFolder + std::to_string(&part - m_catalog.parts().data()) + thumbnailSuffix;
+    return ThumbnailFolder + std::to_string(&part - m_catalog.parts().data()) + ThumbnailSuffix;
 }
 
 std::string CatalogSite::addDrawing(const Part& part, std::string dwg)
 {
-    std::string path = drawingFolder + randomHex(16) + "/" + fileStem(part) + ".dwg";
+    std::string path = DrawingFolder + randomHex(16) + "/" + fileStem(part) + ".dwg";
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_drawings.push_front({path, std::move(dwg)});
     if (m_drawings.size() > maxDrawings)
@@ -76,9 +76,9 @@ std::string CatalogSite::addDrawing(const Part& part, std::string dwg)
 HttpReply CatalogSite::get(const std::string& path) const
 {
     std::string file = path.substr(std::min<std::size_t>(1, path.size()));
-    if (beginsWith(file, thumbnailFolder))
-        return thumbnail(file.substr(thumbnailFolder.size()));
-    if (beginsWith(file, drawingFolder))
+    if (beginsWith(file, ThumbnailFolder))
+        return thumbnail(file.substr(ThumbnailFolder.size()));
+    if (beginsWith(file, DrawingFolder))
         return drawing(file);
     while (!file.empty() && (file.back() == '/' || file.back() == '\\'))
         file.pop_back(); // the links that clients show end in such a tail
@@ -101,7 +101,7 @@ HttpReply CatalogSite::thumbnail(const std::string& name) const
     const std::vector<Part>& parts = m_catalog.parts();
     std::size_t index = parts.size();
     std::from_chars(name.data(), name.data() + name.size(), index);
-    if (index >= parts.size() || name != std::to_string(index) + thumbnailSuffix)
+    if (index >= parts.size() || name != std::to_string(index) + ThumbnailSuffix)
         return notFound();
     return {200, "image/png", drawThumbnail(parts[index], thumbnailSize, thumbnailSize)};
 }

@@ -25,9 +25,9 @@ namespace devcatalog
 namespace
 {
 
-constexpr long day = 24L * 60 * 60;
-constexpr long authorityLifetime = 3650 * day;
-constexpr long serverLifetime = 365 * day;
+constexpr long Day = 24L * 60 * 60;
+constexpr long AuthorityLifetime = 3650 * Day;
+constexpr long ServerLifetime = 365 * Day;
 
 struct BioDeleter {
     void operator()(BIO* bio) const { BIO_free(bio); }
@@ -88,7 +88,7 @@ CertificatePointer makeCertificate(const std::string& name, EVP_PKEY* key, std::
     X509* const raw = certificate.get();
     require(raw != nullptr && X509_set_version(raw, 2) == 1, "make a certificate");
     setRandomSerial(raw);
-    // A day back: clocks of two machines seldom agree.
+    // A Day back: clocks of two machines seldom agree.
     require(X509_time_adj_ex(X509_getm_notBefore(raw), -1, 0, &now) != nullptr &&
                 X509_time_adj_ex(X509_getm_notAfter(raw), 0, lifetime, &now) != nullptr,
             "date a certificate");
@@ -111,7 +111,7 @@ Identity makeAuthority(std::time_t now)
 {
     KeyPointer key = makeKey();
     CertificatePointer certificate = makeCertificate("PartHarbor development catalog authority", key.get(),
-                                                     now, authorityLifetime, nullptr,
+                                                     now, AuthorityLifetime, nullptr,
                                                      {{NID_basic_constraints, "critical,CA:TRUE,pathlen:0"},
                                                       {NID_key_usage, "critical,keyCertSign,cRLSign"},
                                                       {NID_subject_key_identifier, "hash"}});
@@ -157,7 +157,7 @@ bool isUsable(const Identity& identity, std::time_t now)
 {
     if (!identity.certificate)
         return false;
-    std::time_t lastNeeded = now + serverLifetime;
+    std::time_t lastNeeded = now + ServerLifetime;
     return X509_cmp_time(X509_get0_notBefore(identity.certificate.get()), &now) < 0 &&
            X509_cmp_time(X509_get0_notAfter(identity.certificate.get()), &lastNeeded) > 0;
 }
@@ -255,7 +255,7 @@ Identity CertificateAuthority::issue(const std::string& hostName) const
 {
     KeyPointer key = makeKey();
     CertificatePointer certificate =
-        makeCertificate(hostName.substr(0, 64), key.get(), m_now, serverLifetime, &m_identity,
+        makeCertificate(hostName.substr(0, 64), key.get(), m_now, ServerLifetime, &m_identity,
                         {{NID_basic_constraints, "critical,CA:FALSE"},
                          {NID_key_usage, "critical,digitalSignature"},
                          {NID_ext_key_usage, "serverAuth"},

@@ -21,20 +21,20 @@ namespace
 
 /// What a connection may send in all: the longest body, headers and the wrapping of TLS. The HTTP library
 /// itself has no bound for a header line, nor for a body that comes in chunks.
-constexpr std::uint64_t maxConnectionBytes = 2 * std::uint64_t{HttpsListener::maxBodySize};
+constexpr std::uint64_t MaxConnectionBytes = 2 * std::uint64_t{HttpsListener::maxBodySize};
 
 /// Longer paths are not matched: the standard library's regular expressions walk a text recursively.
-constexpr std::size_t maxPathLength = 1024;
+constexpr std::size_t MaxPathLength = 1024;
 
 /// A page of results opens about as many connections at once as it has pictures.
-constexpr std::size_t threadCount = 16;
-constexpr int backlog = 128;
+constexpr std::size_t ThreadCount = 16;
+constexpr int Backlog = 128;
 
 /// Called for each record: a connection that has sent too much reads as ended.
 void limitConnection(int isWritten, int /*version*/, int /*contentType*/, const void* /*record*/,
                      std::size_t /*size*/, SSL* connection, void* /*argument*/)
 {
-    if (!isWritten && BIO_number_read(SSL_get_rbio(connection)) > maxConnectionBytes)
+    if (!isWritten && BIO_number_read(SSL_get_rbio(connection)) > MaxConnectionBytes)
         SSL_set_shutdown(connection, SSL_get_shutdown(connection) | SSL_RECEIVED_SHUTDOWN);
 }
 
@@ -85,7 +85,7 @@ void readBody(HttpRequest& result, const httplib::Request& request, const httpli
         result.bodyTooLong = total > HttpsListener::maxBodySize;
         if (!result.bodyTooLong)
             result.body.append(data, size);
-        return total <= maxConnectionBytes; // it may be compressed, so that this is still to be said here
+        return total <= MaxConnectionBytes; // it may be compressed, so that this is still to be said here
     };
     if (request.is_multipart_form_data())
         read([](const httplib::MultipartFormData&) { return true; }, keep);
@@ -121,8 +121,8 @@ public:
         else if (bind_to_port(loopback, port))
             m_port = port;
         if (m_port != 0) {
-            // Again: the library's own backlog drops connections that come together.
-            ::listen(svr_sock_, backlog);
+            // Again: the library's own Backlog drops connections that come together.
+            ::listen(svr_sock_, Backlog);
         }
         return m_port;
     }
@@ -141,7 +141,7 @@ public:
 
         std::promise<void> running;
         new_task_queue = [&running]() {
-            auto* const pool = new httplib::ThreadPool(threadCount); // owned by the library
+            auto* const pool = new httplib::ThreadPool(ThreadCount); // owned by the library
             running.set_value();
             return pool;
         };
@@ -166,7 +166,7 @@ private:
             response.status = 416;
             return HandlerResponse::Handled;
         }
-        if (request.method == "POST" && request.path.size() <= maxPathLength)
+        if (request.method == "POST" && request.path.size() <= MaxPathLength)
             return HandlerResponse::Unhandled;
         send(response, m_handler(received(request)));
         return HandlerResponse::Handled;

@@ -12,12 +12,12 @@ namespace devcatalog
 namespace
 {
 
-constexpr std::string_view alphanumeric = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+constexpr std::string_view Alphanumeric = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 
 bool consistsOf(std::string_view text, std::string_view further)
 {
     const auto belongs = [further](char character) {
-        return alphanumeric.find(character) != std::string_view::npos ||
+        return Alphanumeric.find(character) != std::string_view::npos ||
                further.find(character) != std::string_view::npos;
     };
     return !text.empty() && std::all_of(text.begin(), text.end(), belongs);

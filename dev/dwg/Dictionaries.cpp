@@ -20,7 +20,7 @@ Object dictionary(ObjectType type, Handle handle, Handle owner, const std::vecto
 {
     Object object(type, handle);
     BitWriter& data = object.data();
-    const bool owned = owner != handles::none;
+    const bool owned = owner != handles::None;
     data.bitLong(owned ? 1 : 0); // reactors
     data.bitLong(static_cast<std::uint32_t>(items.size()));
     data.bitShort(1); // cloning: keep the existing item
@@ -28,7 +28,7 @@ Object dictionary(ObjectType type, Handle handle, Handle owner, const std::vecto
     object.refer(softPointer(owner));
     if (owned)
         object.refer(softPointer(owner));
-    object.refer(hardOwner(handles::none));
+    object.refer(hardOwner(handles::None));
     for (const Item& item : items) {
         data.text(item.name);
         object.refer(softOwner(item.handle));
@@ -38,9 +38,9 @@ Object dictionary(ObjectType type, Handle handle, Handle owner, const std::vecto
 
 Object plotStyleDictionary()
 {
-    Object object = dictionary(ObjectType::DictionaryWithDefault, handles::plotStyles, handles::namedObjects,
-                               {{"Normal", handles::normalPlotStyle}});
-    object.refer(hardPointer(handles::normalPlotStyle)); // the default
+    Object object = dictionary(ObjectType::DictionaryWithDefault, handles::PlotStyles, handles::NamedObjects,
+                               {{"Normal", handles::NormalPlotStyle}});
+    object.refer(hardPointer(handles::NormalPlotStyle)); // the default
     return object;
 }
 
@@ -49,8 +49,8 @@ Object multilineStyle()
     constexpr double rightAngle = 1.5707963267948966;
     constexpr int byLayer = 256;
     constexpr int linetypeByLayer = 0x7FFF;
-    Object object = beginDictionaryItem(ObjectType::MultilineStyle, handles::standardMultilineStyle,
-                                        handles::multilineStyles);
+    Object object = beginDictionaryItem(ObjectType::MultilineStyle, handles::StandardMultilineStyle,
+                                        handles::MultilineStyles);
     BitWriter& data = object.data();
     data.text("STANDARD");
     data.text(""); // description
@@ -74,27 +74,27 @@ Object beginDictionaryItem(ObjectType type, Handle handle, Handle owner)
     object.data().bitLong(1); // reactors
     object.refer(softPointer(owner));
     object.refer(softPointer(owner));
-    object.refer(hardOwner(handles::none));
+    object.refer(hardOwner(handles::None));
     return object;
 }
 
 void addDictionaries(Records& records)
 {
     using Type = ObjectType;
-    addRecord(records, dictionary(Type::Dictionary, handles::namedObjects, handles::none,
-                                  {{"ACAD_GROUP", handles::groups},
-                                   {"ACAD_LAYOUT", handles::layouts},
-                                   {"ACAD_MLINESTYLE", handles::multilineStyles},
-                                   {"ACAD_PLOTSETTINGS", handles::plotSettings},
-                                   {"ACAD_PLOTSTYLENAME", handles::plotStyles}}));
-    addRecord(records, dictionary(Type::Dictionary, handles::groups, handles::namedObjects, {}));
-    addRecord(records, dictionary(Type::Dictionary, handles::multilineStyles, handles::namedObjects,
-                                  {{"STANDARD", handles::standardMultilineStyle}}));
-    addRecord(records, dictionary(Type::Dictionary, handles::plotSettings, handles::namedObjects, {}));
-    addRecord(records, dictionary(Type::Dictionary, handles::layouts, handles::namedObjects,
-                                  {{"Layout1", handles::paperLayout}, {"Model", handles::modelLayout}}));
+    addRecord(records, dictionary(Type::Dictionary, handles::NamedObjects, handles::None,
+                                  {{"ACAD_GROUP", handles::Groups},
+                                   {"ACAD_LAYOUT", handles::Layouts},
+                                   {"ACAD_MLINESTYLE", handles::MultilineStyles},
+                                   {"ACAD_PLOTSETTINGS", handles::PlotSettings},
+                                   {"ACAD_PLOTSTYLENAME", handles::PlotStyles}}));
+    addRecord(records, dictionary(Type::Dictionary, handles::Groups, handles::NamedObjects, {}));
+    addRecord(records, dictionary(Type::Dictionary, handles::MultilineStyles, handles::NamedObjects,
+                                  {{"STANDARD", handles::StandardMultilineStyle}}));
+    addRecord(records, dictionary(Type::Dictionary, handles::PlotSettings, handles::NamedObjects, {}));
+    addRecord(records, dictionary(Type::Dictionary, handles::Layouts, handles::NamedObjects,
+                                  {{"Layout1", handles::PaperLayout}, {"Model", handles::ModelLayout}}));
     addRecord(records, plotStyleDictionary());
-    addRecord(records, beginDictionaryItem(Type::Placeholder, handles::normalPlotStyle, handles::plotStyles));
+    addRecord(records, beginDictionaryItem(Type::Placeholder, handles::NormalPlotStyle, handles::PlotStyles));
     addRecord(records, multilineStyle());
 }
 

@@ -9,16 +9,16 @@ namespace dwg
 namespace
 {
 
-constexpr std::size_t longestText = 255;
+constexpr std::size_t LongestText = 255;
 
 /// Outlines in the foreground colour, hidden edges in grey, centre lines in red; their widths (the format's
 /// numbers of 0.50, 0.35 and 0.25 mm) are those of a mechanical drawing of line group 0.5.
 std::array<Layer, 3> makeLayers()
 {
-    const Handle first = handles::firstLayer;
-    return {{{first, "Outline", 7, 11, handles::linetypeContinuous},
-             {first + 1, "Hidden", 253, 9, handles::linetypeHidden},
-             {first + 2, "Centre", 1, 7, handles::linetypeCenter}}};
+    const Handle first = handles::FirstLayer;
+    return {{{first, "Outline", 7, 11, handles::LinetypeContinuous},
+             {first + 1, "Hidden", 253, 9, handles::LinetypeHidden},
+             {first + 2, "Centre", 1, 7, handles::LinetypeCenter}}};
 }
 
 } // namespace
@@ -27,7 +27,7 @@ Document makeDwgDocument(const Drawing& drawing)
 {
     checkDrawing(drawing);
     Document document;
-    document.title = toWindows1252(drawing.title, '?').substr(0, longestText);
+    document.title = toWindows1252(drawing.title, '?').substr(0, LongestText);
     document.layers = makeLayers();
     document.entities = drawing.entities;
     document.extents = extentsOf(drawing.entities);

@@ -20,10 +20,10 @@ struct Date {
 };
 
 /// The date in every file, 1 January 2002: a clock would make equal drawings differ.
-constexpr Date date = {2452276, 0};
+constexpr Date FileDate = {2452276, 0};
 
 /// Units of a drawing (INSUNITS): centimetres.
-constexpr int insertionUnits = 5;
+constexpr int InsertionUnits = 5;
 
 struct Layer {
     Handle handle = 0;

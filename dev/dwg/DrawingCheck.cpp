@@ -14,12 +14,12 @@ namespace
 {
 
 /// In centimetres: 10000 km, beyond any part, far within what doubles and CAD programs hold exactly enough.
-constexpr double largestCoordinate = 1.0e9;
+constexpr double LargestCoordinate = 1.0e9;
 /// An arc with this bulge is a circle but for a four-millionth of a turn.
-constexpr double largestBulge = 1.0e6;
+constexpr double LargestBulge = 1.0e6;
 /// Keeps a polyline below 32 KB; some readers show nothing of a drawing that has a larger object.
-constexpr std::size_t mostVertices = 1000;
-constexpr std::size_t mostPoints = 1'000'000;
+constexpr std::size_t MostVertices = 1000;
+constexpr std::size_t MostPoints = 1'000'000;
 
 [[noreturn]] void fail(std::size_t entityIndex, const std::string& fault)
 {
@@ -51,12 +51,12 @@ public:
     std::size_t operator()(const Polyline& polyline) const
     {
         const std::size_t count = polyline.vertices.size();
-        if (count < 2 || count > mostVertices)
+        if (count < 2 || count > MostVertices)
             fail(m_entityIndex, "the polyline does not have 2 to 1000 vertices");
         for (const PolylineVertex& vertex : polyline.vertices) {
             checkPoint(vertex.point);
             checkNumber(vertex.bulge, "bulge");
-            if (std::abs(vertex.bulge) > largestBulge)
+            if (std::abs(vertex.bulge) > LargestBulge)
                 fail(m_entityIndex, "the bulge is too large");
         }
         return count;
@@ -84,7 +84,7 @@ void checkReach(const Drawing& drawing)
     if (!extents)
         return;
     for (const double edge : {extents->min.x, extents->min.y, extents->max.x, extents->max.y})
-        if (std::abs(edge) > largestCoordinate)
+        if (std::abs(edge) > LargestCoordinate)
             throw std::invalid_argument("The drawing reaches beyond 1e9 cm from its origin");
 }
 
@@ -95,7 +95,7 @@ void checkDrawing(const Drawing& drawing)
     std::size_t points = 0;
     for (std::size_t index = 0; index < drawing.entities.size(); ++index)
         points += std::visit(ShapeCheck(index), drawing.entities[index].shape);
-    if (points > mostPoints)
+    if (points > MostPoints)
         throw std::invalid_argument("The drawing has more than a million points");
     checkReach(drawing);
 }

@@ -12,7 +12,7 @@ namespace
 {
 
 /// An arc flatter than this is taken for its chord: its centre is too far away to compute with.
-constexpr double flattestBulge = 1.0e-6;
+constexpr double FlattestBulge = 1.0e-6;
 
 class ExtentsCollector
 {
@@ -35,7 +35,7 @@ public:
         for (std::size_t index = 0; index < vertices.size(); ++index) {
             include(vertices[index].point);
             const bool last = index + 1 == vertices.size();
-            if (std::abs(vertices[index].bulge) > flattestBulge && (!last || polyline.closed))
+            if (std::abs(vertices[index].bulge) > FlattestBulge && (!last || polyline.closed))
                 includeArc(vertices[index], vertices[last ? 0 : index + 1].point);
         }
     }

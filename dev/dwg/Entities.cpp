@@ -93,8 +93,8 @@ EntityPlace placeOf(std::size_t index, const Document& document)
     const bool first = place.handle == document.firstEntity;
     const bool last = place.handle == document.lastEntity();
     place.betweenNeighbours = !first && !last;
-    place.previous = first ? handles::none : place.handle - 1;
-    place.next = last ? handles::none : place.handle + 1;
+    place.previous = first ? handles::None : place.handle - 1;
+    place.next = last ? handles::None : place.handle + 1;
     return place;
 }
 
@@ -117,7 +117,7 @@ Object beginEntity(ObjectType type, const EntityPlace& place)
     data.bitShort(0);    // visible
     data.rawChar(lineweightByLayer);
 
-    object.refer(hardOwner(handles::none));
+    object.refer(hardOwner(handles::None));
     if (!place.betweenNeighbours) {
         object.refer(softPointer(place.previous));
         object.refer(softPointer(place.next));

@@ -19,8 +19,8 @@ struct EntityPlace {
     /// out.
     bool betweenNeighbours = false;
     /// Else the entities before and after, or none.
-    Handle previous = handles::none;
-    Handle next = handles::none;
+    Handle previous = handles::None;
+    Handle next = handles::None;
 };
 
 /// Begins an entity; colour, linetype and width are the layer's.

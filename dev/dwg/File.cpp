@@ -18,20 +18,20 @@ namespace
 
 using Sentinel = std::array<unsigned char, 16>;
 
-constexpr Sentinel afterFileHeader = {0x95, 0xA0, 0x4E, 0x28, 0x99, 0x82, 0x1A, 0xE5,
+constexpr Sentinel AfterFileHeader = {0x95, 0xA0, 0x4E, 0x28, 0x99, 0x82, 0x1A, 0xE5,
                                       0x5E, 0x41, 0xE0, 0x5F, 0x9D, 0x3A, 0x4D, 0x00};
-constexpr Sentinel headerSentinel = {0xCF, 0x7B, 0x1F, 0x23, 0xFD, 0xDE, 0x38, 0xA9,
+constexpr Sentinel HeaderSentinel = {0xCF, 0x7B, 0x1F, 0x23, 0xFD, 0xDE, 0x38, 0xA9,
                                      0x5F, 0x7C, 0x68, 0xB8, 0x4E, 0x6D, 0x33, 0x5F};
-constexpr Sentinel classesSentinel = {0x8D, 0xA1, 0xC4, 0xB8, 0xC4, 0xA9, 0xF8, 0xC5,
+constexpr Sentinel ClassesSentinel = {0x8D, 0xA1, 0xC4, 0xB8, 0xC4, 0xA9, 0xF8, 0xC5,
                                       0xC0, 0xDC, 0xF4, 0x5F, 0xE7, 0xCF, 0xB6, 0x8A};
-constexpr Sentinel previewSentinel = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
+constexpr Sentinel PreviewSentinel = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
                                       0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
-constexpr Sentinel secondHeaderSentinel = {0xD4, 0x7B, 0x21, 0xCE, 0x28, 0x93, 0x9F, 0xBF,
+constexpr Sentinel SecondHeaderSentinel = {0xD4, 0x7B, 0x21, 0xCE, 0x28, 0x93, 0x9F, 0xBF,
                                            0x53, 0x24, 0x40, 0x09, 0x12, 0x3C, 0xAA, 0x01};
 
 /// Release and maintenance release of the program that is said to have written the file.
-constexpr unsigned writerRelease = 0x17;
-constexpr unsigned writerMaintenance = 0x06;
+constexpr unsigned WriterRelease = 0x17;
+constexpr unsigned WriterMaintenance = 0x06;
 
 /// The sections that the file header locates, by their number there.
 enum Section : std::size_t { Header, Classes, ObjectMap, FreeSpace, Template, AuxHeader, sectionCount };
@@ -71,7 +71,7 @@ void writeVersion(BitWriter& data)
 {
     data.rawBytes("AC1015");
     data.rawBytes(std::string(5, '\0'));
-    data.rawChar(writerMaintenance);
+    data.rawChar(WriterMaintenance);
     data.rawChar(1);
 }
 
@@ -81,22 +81,22 @@ std::string fileHeader(std::uint32_t previewAddress, const Locations& locations)
     BitWriter data;
     writeVersion(data);
     data.rawLong(previewAddress);
-    data.rawChar(writerRelease);
-    data.rawChar(writerMaintenance);
-    data.rawShort(codePage);
+    data.rawChar(WriterRelease);
+    data.rawChar(WriterMaintenance);
+    data.rawShort(CodePage);
     data.rawLong(sectionCount);
     for (std::size_t number = 0; number < locations.size(); ++number) {
         data.rawChar(static_cast<unsigned>(number));
         data.rawLongs({locations.at(number).address, locations.at(number).size});
     }
     data.rawShort(crc(data.bytes(), 0) ^ crcMaskForSixSections);
-    return data.bytes() + toBytes(afterFileHeader);
+    return data.bytes() + toBytes(AfterFileHeader);
 }
 
 std::string auxHeader(Handle firstUnusedHandle)
 {
-    constexpr unsigned release = writerRelease;
-    constexpr unsigned maintenance = writerMaintenance;
+    constexpr unsigned release = WriterRelease;
+    constexpr unsigned maintenance = WriterMaintenance;
     BitWriter data;
     data.rawChar(0xFF);
     data.rawShort(0x0177);
@@ -106,8 +106,8 @@ std::string auxHeader(Handle firstUnusedHandle)
     data.rawShorts({release, maintenance, release, maintenance});
     data.rawShorts({5, 0x893, 5, 0x893, 0, 1});
     data.rawLongs({0, 0, 0, 0, 0});
-    data.rawLongs({date.julianDay, date.milliseconds}); // created
-    data.rawLongs({date.julianDay, date.milliseconds}); // saved
+    data.rawLongs({FileDate.julianDay, FileDate.milliseconds}); // created
+    data.rawLongs({FileDate.julianDay, FileDate.milliseconds}); // saved
     data.rawLongs({firstUnusedHandle, 0});
     data.rawShorts({0, 1});
     data.rawLongs({0, 0, 0, 1, 0, 0, 0, 0});
@@ -119,14 +119,14 @@ std::string emptyPreview()
     BitWriter data;
     data.rawLong(1);
     data.rawChar(0); // no pictures
-    return betweenSentinels(previewSentinel, data.bytes());
+    return betweenSentinels(PreviewSentinel, data.bytes());
 }
 
 std::string freeSpace(std::size_t objectCount, std::uint32_t objectsAddress)
 {
     BitWriter data;
     data.rawLongs({0, static_cast<std::uint32_t>(objectCount)});
-    data.rawLongs({date.julianDay, date.milliseconds});
+    data.rawLongs({FileDate.julianDay, FileDate.milliseconds});
     data.rawLong(objectsAddress);
     data.rawChar(4);
     data.rawLongs({0x32, 0, 0x64, 0, 0x200, 0, 0xFFFFFFFF, 0});
@@ -137,19 +137,19 @@ std::string freeSpace(std::size_t objectCount, std::uint32_t objectsAddress)
 void writeRootHandles(BitWriter& data, Handle firstUnusedHandle)
 {
     const std::array<Handle, 14> roots = {firstUnusedHandle,
-                                          handles::blockControl,
-                                          handles::layerControl,
-                                          handles::styleControl,
-                                          handles::linetypeControl,
-                                          handles::viewControl,
-                                          handles::ucsControl,
-                                          handles::viewportControl,
-                                          handles::applicationControl,
-                                          handles::dimensionStyleControl,
-                                          handles::viewportHeaderControl,
-                                          handles::namedObjects,
-                                          handles::multilineStyles,
-                                          handles::groups};
+                                          handles::BlockControl,
+                                          handles::LayerControl,
+                                          handles::StyleControl,
+                                          handles::LinetypeControl,
+                                          handles::ViewControl,
+                                          handles::UcsControl,
+                                          handles::ViewportControl,
+                                          handles::ApplicationControl,
+                                          handles::DimensionStyleControl,
+                                          handles::ViewportHeaderControl,
+                                          handles::NamedObjects,
+                                          handles::MultilineStyles,
+                                          handles::Groups};
     data.bitShort(static_cast<int>(roots.size()));
     for (std::size_t index = 0; index < roots.size(); ++index)
         data.countedHandle(static_cast<unsigned>(index), roots.at(index));
@@ -161,8 +161,8 @@ std::string secondHeader(std::uint32_t address, const Locations& locations, Hand
     BitWriter body;
     body.bitLong(address);
     writeVersion(body);
-    body.bitShort(static_cast<int>(writerMaintenance << 8U | writerRelease));
-    body.rawShort(codePage);
+    body.bitShort(static_cast<int>(WriterMaintenance << 8U | WriterRelease));
+    body.rawShort(CodePage);
     body.bitShort(static_cast<int>(sectionCount));
     for (std::size_t number = 0; number < locations.size(); ++number) {
         const Location location = number == Template ? Location{} : locations.at(number);
@@ -180,7 +180,7 @@ std::string secondHeader(std::uint32_t address, const Locations& locations, Hand
     data.rawBytes(body.bytes());
     data.rawShort(crc(data.bytes()));
     data.rawBytes(trailer);
-    return betweenSentinels(secondHeaderSentinel, data.bytes());
+    return betweenSentinels(SecondHeaderSentinel, data.bytes());
 }
 
 std::string measurementTemplate()
@@ -228,8 +228,8 @@ std::string layOutDwgFile(const FileParts& parts)
     GrowingFile file(fileHeader(0, locations).size());
     locations[AuxHeader] = file.append(auxHeader(parts.firstUnusedHandle));
     const Location preview = file.append(emptyPreview());
-    locations[Header] = file.append(checkedSection(headerSentinel, parts.headerVariables));
-    locations[Classes] = file.append(checkedSection(classesSentinel, parts.classes));
+    locations[Header] = file.append(checkedSection(HeaderSentinel, parts.headerVariables));
+    locations[Classes] = file.append(checkedSection(ClassesSentinel, parts.classes));
     file.append(std::string(gapBeforeObjects, '\0'));
     const std::uint32_t objectsAddress = file.end();
     const std::vector<MapEntry> entries = appendObjects(file, parts.records);

@@ -40,45 +40,45 @@ constexpr Reference hardPointer(Handle handle)
 /// Handles of the objects that every drawing has. Any would do; these are the ones commonly seen.
 namespace handles
 {
-constexpr Handle none = 0;
-constexpr Handle blockControl = 0x01;
-constexpr Handle layerControl = 0x02;
-constexpr Handle styleControl = 0x03;
-constexpr Handle linetypeControl = 0x05;
-constexpr Handle viewControl = 0x06;
-constexpr Handle ucsControl = 0x07;
-constexpr Handle viewportControl = 0x08;
-constexpr Handle applicationControl = 0x09;
-constexpr Handle dimensionStyleControl = 0x0A;
-constexpr Handle viewportHeaderControl = 0x0B;
-constexpr Handle namedObjects = 0x0C;
-constexpr Handle groups = 0x0D;
-constexpr Handle plotStyles = 0x0E;
-constexpr Handle normalPlotStyle = 0x0F;
-constexpr Handle layerZero = 0x10;
-constexpr Handle standardStyle = 0x11;
-constexpr Handle application = 0x12;
-constexpr Handle linetypeByBlock = 0x14;
-constexpr Handle linetypeByLayer = 0x15;
-constexpr Handle linetypeContinuous = 0x16;
-constexpr Handle multilineStyles = 0x17;
-constexpr Handle standardMultilineStyle = 0x18;
-constexpr Handle plotSettings = 0x19;
-constexpr Handle layouts = 0x1A;
-constexpr Handle paperSpace = 0x1B;
-constexpr Handle paperSpaceBlock = 0x1C;
-constexpr Handle paperSpaceEnd = 0x1D;
-constexpr Handle paperLayout = 0x1E;
-constexpr Handle modelSpace = 0x1F;
-constexpr Handle modelSpaceBlock = 0x20;
-constexpr Handle modelSpaceEnd = 0x21;
-constexpr Handle modelLayout = 0x22;
-constexpr Handle standardDimensionStyle = 0x27;
-constexpr Handle activeViewport = 0x29;
-constexpr Handle linetypeHidden = 0x30;
-constexpr Handle linetypeCenter = 0x31;
+constexpr Handle None = 0;
+constexpr Handle BlockControl = 0x01;
+constexpr Handle LayerControl = 0x02;
+constexpr Handle StyleControl = 0x03;
+constexpr Handle LinetypeControl = 0x05;
+constexpr Handle ViewControl = 0x06;
+constexpr Handle UcsControl = 0x07;
+constexpr Handle ViewportControl = 0x08;
+constexpr Handle ApplicationControl = 0x09;
+constexpr Handle DimensionStyleControl = 0x0A;
+constexpr Handle ViewportHeaderControl = 0x0B;
+constexpr Handle NamedObjects = 0x0C;
+constexpr Handle Groups = 0x0D;
+constexpr Handle PlotStyles = 0x0E;
+constexpr Handle NormalPlotStyle = 0x0F;
+constexpr Handle LayerZero = 0x10;
+constexpr Handle StandardStyle = 0x11;
+constexpr Handle Application = 0x12;
+constexpr Handle LinetypeByBlock = 0x14;
+constexpr Handle LinetypeByLayer = 0x15;
+constexpr Handle LinetypeContinuous = 0x16;
+constexpr Handle MultilineStyles = 0x17;
+constexpr Handle StandardMultilineStyle = 0x18;
+constexpr Handle PlotSettings = 0x19;
+constexpr Handle Layouts = 0x1A;
+constexpr Handle PaperSpace = 0x1B;
+constexpr Handle PaperSpaceBlock = 0x1C;
+constexpr Handle PaperSpaceEnd = 0x1D;
+constexpr Handle PaperLayout = 0x1E;
+constexpr Handle ModelSpace = 0x1F;
+constexpr Handle ModelSpaceBlock = 0x20;
+constexpr Handle ModelSpaceEnd = 0x21;
+constexpr Handle ModelLayout = 0x22;
+constexpr Handle StandardDimensionStyle = 0x27;
+constexpr Handle ActiveViewport = 0x29;
+constexpr Handle LinetypeHidden = 0x30;
+constexpr Handle LinetypeCenter = 0x31;
 /// The layers of the drawing, then its entities, follow from here without a gap.
-constexpr Handle firstLayer = 0x32;
+constexpr Handle FirstLayer = 0x32;
 } // namespace handles
 
 } // namespace dwg

@@ -11,7 +11,7 @@ namespace dwg
 namespace
 {
 
-constexpr int byLayer = 256;
+constexpr int ByLayer = 256;
 
 /// What the file begins with; its meaning was never published.
 void writePreamble(BitWriter& data)
@@ -21,7 +21,7 @@ void writePreamble(BitWriter& data)
         data.text(text);
     data.bitLong(24);
     data.bitLong(0);
-    data.handle(hardPointer(handles::none)); // current viewport header
+    data.handle(hardPointer(handles::None)); // current viewport header
 }
 
 void writeSwitches(BitWriter& data)
@@ -108,22 +108,22 @@ void writeDate(BitWriter& data, Date date)
 
 void writeDates(BitWriter& data)
 {
-    writeDate(data, date); // TDCREATE
-    writeDate(data, date); // TDUPDATE
-    writeDate(data, {});   // TDINDWG
-    writeDate(data, {});   // TDUSRTIMER
+    writeDate(data, FileDate); // TDCREATE
+    writeDate(data, FileDate); // TDUPDATE
+    writeDate(data, {});       // TDINDWG
+    writeDate(data, {});       // TDUSRTIMER
 }
 
 /// What a new entity would look like.
 void writeCurrentObjects(BitWriter& data, Handle firstUnusedHandle)
 {
-    data.colour(byLayer);                          // CECOLOR
+    data.colour(ByLayer);                          // CECOLOR
     data.handle(selfReference(firstUnusedHandle)); // HANDSEED
-    data.handle(hardPointer(handles::layerZero));  // CLAYER
-    data.handle(hardPointer(handles::standardStyle));
-    data.handle(hardPointer(handles::linetypeByLayer));
-    data.handle(hardPointer(handles::standardDimensionStyle));
-    data.handle(hardPointer(handles::standardMultilineStyle));
+    data.handle(hardPointer(handles::LayerZero));  // CLAYER
+    data.handle(hardPointer(handles::StandardStyle));
+    data.handle(hardPointer(handles::LinetypeByLayer));
+    data.handle(hardPointer(handles::StandardDimensionStyle));
+    data.handle(hardPointer(handles::StandardMultilineStyle));
     data.bitDouble(0.0); // PSVPSCALE
 }
 
@@ -137,10 +137,10 @@ void writeSpace(BitWriter& data, const SpaceBounds& bounds)
     data.bitDoubles({0.0, 0.0, 0.0});        // UCSORG
     data.bitDoubles({1.0, 0.0, 0.0});        // UCSXDIR
     data.bitDoubles({0.0, 1.0, 0.0});        // UCSYDIR
-    data.handle(hardPointer(handles::none)); // UCSNAME
-    data.handle(hardPointer(handles::none)); // UCSORTHOREF
+    data.handle(hardPointer(handles::None)); // UCSNAME
+    data.handle(hardPointer(handles::None)); // UCSORTHOREF
     data.bitShort(0);                        // UCSORTHOVIEW
-    data.handle(hardPointer(handles::none)); // UCSBASE
+    data.handle(hardPointer(handles::None)); // UCSBASE
     constexpr int orthographicViews = 6;
     for (int view = 0; view < orthographicViews; ++view)
         data.bitDoubles({0.0, 0.0, 0.0}); // its origin
@@ -149,30 +149,30 @@ void writeSpace(BitWriter& data, const SpaceBounds& bounds)
 void writeDimensions(BitWriter& data)
 {
     writeDimensionVariables(data);
-    data.handle(hardPointer(handles::standardStyle)); // DIMTXSTY
-    data.handle(hardPointer(handles::none));          // DIMLDRBLK
-    data.handle(hardPointer(handles::none));          // DIMBLK
-    data.handle(hardPointer(handles::none));          // DIMBLK1
-    data.handle(hardPointer(handles::none));          // DIMBLK2
+    data.handle(hardPointer(handles::StandardStyle)); // DIMTXSTY
+    data.handle(hardPointer(handles::None));          // DIMLDRBLK
+    data.handle(hardPointer(handles::None));          // DIMBLK
+    data.handle(hardPointer(handles::None));          // DIMBLK1
+    data.handle(hardPointer(handles::None));          // DIMBLK2
     data.bitShorts({-2, -2});                         // DIMLWD, DIMLWE: by block
 }
 
 void writeTablesAndDictionaries(BitWriter& data)
 {
     for (const Handle control :
-         {handles::blockControl, handles::layerControl, handles::styleControl, handles::linetypeControl,
-          handles::viewControl, handles::ucsControl, handles::viewportControl, handles::applicationControl,
-          handles::dimensionStyleControl, handles::viewportHeaderControl})
+         {handles::BlockControl, handles::LayerControl, handles::StyleControl, handles::LinetypeControl,
+          handles::ViewControl, handles::UcsControl, handles::ViewportControl, handles::ApplicationControl,
+          handles::DimensionStyleControl, handles::ViewportHeaderControl})
         data.handle(hardOwner(control));
-    data.handle(hardPointer(handles::groups));
-    data.handle(hardPointer(handles::multilineStyles));
-    data.handle(hardOwner(handles::namedObjects));
+    data.handle(hardPointer(handles::Groups));
+    data.handle(hardPointer(handles::MultilineStyles));
+    data.handle(hardOwner(handles::NamedObjects));
     data.bitShorts({1, 70}); // TSTACKALIGN, TSTACKSIZE
     data.text("");           // HYPERLINKBASE
     data.text("");           // STYLESHEET
-    data.handle(hardPointer(handles::layouts));
-    data.handle(hardPointer(handles::plotSettings));
-    data.handle(hardPointer(handles::plotStyles));
+    data.handle(hardPointer(handles::Layouts));
+    data.handle(hardPointer(handles::PlotSettings));
+    data.handle(hardPointer(handles::PlotStyles));
 }
 
 void writeIdentity(BitWriter& data, const Document& document, std::string_view content)
@@ -180,12 +180,12 @@ void writeIdentity(BitWriter& data, const Document& document, std::string_view c
     constexpr std::uint32_t flags =
         0x2A1D; // among them: lineweight by layer, extended names, plot style by colour
     data.bitLong(flags);
-    data.bitShort(insertionUnits);
+    data.bitShort(InsertionUnits);
     data.bitShort(0); // CEPSNTYPE: plot style by layer
     data.text(makeDwgGuid("fingerprint " + document.title));
     data.text(makeDwgGuid(content));
-    for (const Handle object : {handles::paperSpace, handles::modelSpace, handles::linetypeByLayer,
-                                handles::linetypeByBlock, handles::linetypeContinuous})
+    for (const Handle object : {handles::PaperSpace, handles::ModelSpace, handles::LinetypeByLayer,
+                                handles::LinetypeByBlock, handles::LinetypeContinuous})
         data.handle(hardPointer(object));
     data.bitShorts({0, 0, 0, 0});
 }

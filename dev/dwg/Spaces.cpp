@@ -26,24 +26,24 @@ struct SpaceNames {
     int scaleType;
 };
 
-constexpr SpaceNames modelSpace = {Space::Model,
+constexpr SpaceNames ModelSpace = {Space::Model,
                                    "*Model_Space",
-                                   handles::modelSpace,
-                                   handles::modelSpaceBlock,
-                                   handles::modelSpaceEnd,
-                                   handles::modelLayout,
+                                   handles::ModelSpace,
+                                   handles::ModelSpaceBlock,
+                                   handles::ModelSpaceEnd,
+                                   handles::ModelLayout,
                                    "Model",
                                    0,
                                    1712,
                                    0,
                                    0};
 
-constexpr SpaceNames paperSpace = {Space::Paper,
+constexpr SpaceNames PaperSpace = {Space::Paper,
                                    "*Paper_Space",
-                                   handles::paperSpace,
-                                   handles::paperSpaceBlock,
-                                   handles::paperSpaceEnd,
-                                   handles::paperLayout,
+                                   handles::PaperSpace,
+                                   handles::PaperSpaceBlock,
+                                   handles::PaperSpaceEnd,
+                                   handles::PaperLayout,
                                    "Layout1",
                                    1,
                                    688,
@@ -55,7 +55,7 @@ constexpr SpaceNames paperSpace = {Space::Paper,
 Object blockHeader(const SpaceNames& names, std::string_view description, Handle first, Handle last)
 {
     Object object =
-        beginTableEntry(ObjectType::BlockHeader, names.header, handles::blockControl, names.blockName);
+        beginTableEntry(ObjectType::BlockHeader, names.header, handles::BlockControl, names.blockName);
     BitWriter& data = object.data();
     // Not anonymous, no attributes, no external drawing, not overlaid, not loaded.
     data.bits({false, false, false, false, false});
@@ -75,7 +75,7 @@ Object blockHeader(const SpaceNames& names, std::string_view description, Handle
 void addBlock(Records& records, const SpaceNames& names)
 {
     EntityPlace place;
-    place.layer = handles::layerZero;
+    place.layer = handles::LayerZero;
     place.space = names.space;
     place.handle = names.begin;
     Object begin = beginEntity(ObjectType::Block, place);
@@ -108,7 +108,7 @@ void writePlotSettings(BitWriter& data, const SpaceNames& names)
 
 Object layout(const SpaceNames& names, const SpaceBounds& bounds)
 {
-    Object object = beginDictionaryItem(ObjectType::Layout, names.layout, handles::layouts);
+    Object object = beginDictionaryItem(ObjectType::Layout, names.layout, handles::Layouts);
     BitWriter& data = object.data();
     writePlotSettings(data, names);
     data.text(names.layoutName);
@@ -124,9 +124,9 @@ Object layout(const SpaceNames& names, const SpaceBounds& bounds)
     data.bitShort(0);    // not orthographic
     writeExtents(data, bounds.extents);
     object.refer(softPointer(names.header));
-    object.refer(softPointer(handles::none)); // viewport last active
-    object.refer(hardPointer(handles::none)); // base and named coordinate system
-    object.refer(hardPointer(handles::none));
+    object.refer(softPointer(handles::None)); // viewport last active
+    object.refer(hardPointer(handles::None)); // base and named coordinate system
+    object.refer(hardPointer(handles::None));
     return object;
 }
 
@@ -154,10 +154,10 @@ void writeExtents(BitWriter& data, const std::optional<Extents>& extents)
 void addSpaces(Records& records, const Document& document)
 {
     const bool empty = document.entities.empty();
-    addRecord(records, blockHeader(modelSpace, document.title, empty ? handles::none : document.firstEntity,
-                                   empty ? handles::none : document.lastEntity()));
-    addRecord(records, blockHeader(paperSpace, "", handles::none, handles::none));
-    for (const SpaceNames& names : {modelSpace, paperSpace}) {
+    addRecord(records, blockHeader(ModelSpace, document.title, empty ? handles::None : document.firstEntity,
+                                   empty ? handles::None : document.lastEntity()));
+    addRecord(records, blockHeader(PaperSpace, "", handles::None, handles::None));
+    for (const SpaceNames& names : {ModelSpace, PaperSpace}) {
         addBlock(records, names);
         addRecord(records, layout(names, boundsOf(names.space, document)));
     }

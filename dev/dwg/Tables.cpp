@@ -22,8 +22,8 @@ Object controlObject(ObjectType type, Handle handle, const std::vector<Handle>& 
     Object object(type, handle);
     object.data().bitLong(0); // reactors
     object.data().bitLong(static_cast<std::uint32_t>(entries.size()));
-    object.refer(softPointer(handles::none));
-    object.refer(hardOwner(handles::none));
+    object.refer(softPointer(handles::None));
+    object.refer(hardOwner(handles::None));
     for (const Handle entry : entries)
         object.refer(softOwner(entry));
     for (const Handle entry : fixedEntries)
@@ -34,37 +34,37 @@ Object controlObject(ObjectType type, Handle handle, const std::vector<Handle>& 
 void addControlObjects(Records& records, const Document& document)
 {
     using Type = ObjectType;
-    std::vector<Handle> layers = {handles::layerZero};
+    std::vector<Handle> layers = {handles::LayerZero};
     for (const Layer& layer : document.layers)
         layers.push_back(layer.handle);
-    addRecord(records, controlObject(Type::BlockControl, handles::blockControl, {},
-                                     {handles::modelSpace, handles::paperSpace}));
-    addRecord(records, controlObject(Type::LayerControl, handles::layerControl, layers));
-    addRecord(records, controlObject(Type::StyleControl, handles::styleControl, {handles::standardStyle}));
+    addRecord(records, controlObject(Type::BlockControl, handles::BlockControl, {},
+                                     {handles::ModelSpace, handles::PaperSpace}));
+    addRecord(records, controlObject(Type::LayerControl, handles::LayerControl, layers));
+    addRecord(records, controlObject(Type::StyleControl, handles::StyleControl, {handles::StandardStyle}));
     addRecord(records,
-              controlObject(Type::LinetypeControl, handles::linetypeControl,
-                            {handles::linetypeContinuous, handles::linetypeHidden, handles::linetypeCenter},
-                            {handles::linetypeByBlock, handles::linetypeByLayer}));
-    addRecord(records, controlObject(Type::ViewControl, handles::viewControl, {}));
-    addRecord(records, controlObject(Type::UcsControl, handles::ucsControl, {}));
+              controlObject(Type::LinetypeControl, handles::LinetypeControl,
+                            {handles::LinetypeContinuous, handles::LinetypeHidden, handles::LinetypeCenter},
+                            {handles::LinetypeByBlock, handles::LinetypeByLayer}));
+    addRecord(records, controlObject(Type::ViewControl, handles::ViewControl, {}));
+    addRecord(records, controlObject(Type::UcsControl, handles::UcsControl, {}));
     addRecord(records,
-              controlObject(Type::ViewportControl, handles::viewportControl, {handles::activeViewport}));
+              controlObject(Type::ViewportControl, handles::ViewportControl, {handles::ActiveViewport}));
     addRecord(records,
-              controlObject(Type::ApplicationControl, handles::applicationControl, {handles::application}));
-    Object dimensionStyles = controlObject(Type::DimensionStyleControl, handles::dimensionStyleControl,
-                                           {handles::standardDimensionStyle});
+              controlObject(Type::ApplicationControl, handles::ApplicationControl, {handles::Application}));
+    Object dimensionStyles = controlObject(Type::DimensionStyleControl, handles::DimensionStyleControl,
+                                           {handles::StandardDimensionStyle});
     dimensionStyles.data().rawChar(0); // further references, which this control object alone may have
     addRecord(records, dimensionStyles);
-    addRecord(records, controlObject(Type::ViewportHeaderControl, handles::viewportHeaderControl, {}));
+    addRecord(records, controlObject(Type::ViewportHeaderControl, handles::ViewportHeaderControl, {}));
 }
 
 Object layerEntry(const Layer& layer)
 {
     constexpr int plots = 0x10;
-    Object object = beginTableEntry(ObjectType::Layer, layer.handle, handles::layerControl, layer.name);
+    Object object = beginTableEntry(ObjectType::Layer, layer.handle, handles::LayerControl, layer.name);
     object.data().bitShort(plots | (layer.lineweightIndex << 5));
     object.data().colour(layer.colour);
-    object.refer(hardPointer(handles::normalPlotStyle));
+    object.refer(hardPointer(handles::NormalPlotStyle));
     object.refer(hardPointer(layer.linetype));
     return object;
 }
@@ -74,7 +74,7 @@ void addLayers(Records& records, const Document& document)
     constexpr int white = 7;
     constexpr int defaultLineweight = 31;
     addRecord(records,
-              layerEntry({handles::layerZero, "0", white, defaultLineweight, handles::linetypeContinuous}));
+              layerEntry({handles::LayerZero, "0", white, defaultLineweight, handles::LinetypeContinuous}));
     for (const Layer& layer : document.layers)
         addRecord(records, layerEntry(layer));
 }
@@ -90,7 +90,7 @@ struct Linetype {
 Object linetypeEntry(const Linetype& linetype)
 {
     Object object =
-        beginTableEntry(ObjectType::Linetype, linetype.handle, handles::linetypeControl, linetype.name);
+        beginTableEntry(ObjectType::Linetype, linetype.handle, handles::LinetypeControl, linetype.name);
     BitWriter& data = object.data();
     const std::vector<double>& dashes = linetype.dashes;
     data.text(linetype.description);
@@ -104,7 +104,7 @@ Object linetypeEntry(const Linetype& linetype)
         data.rawPoint({0.0, 0.0});                // its offset
         data.bitDoubles({1.0, 0.0});              // its scale and rotation
         data.bitShort(0);                         // its flags
-        object.refer(hardPointer(handles::none)); // its text style
+        object.refer(hardPointer(handles::None)); // its text style
     }
     constexpr std::size_t textAreaSize = 256;
     data.rawBytes(std::string(textAreaSize, '\0'));
@@ -114,11 +114,11 @@ Object linetypeEntry(const Linetype& linetype)
 void addLinetypes(Records& records)
 {
     const std::vector<Linetype> linetypes = {
-        {handles::linetypeByBlock, "ByBlock", "", {}},
-        {handles::linetypeByLayer, "ByLayer", "", {}},
-        {handles::linetypeContinuous, "Continuous", "Solid line", {}},
-        {handles::linetypeHidden, "HIDDEN", "Hidden __ __ __ __ __ __", {0.25, -0.125}},
-        {handles::linetypeCenter, "CENTER", "Center ____ _ ____ _ ____", {0.75, -0.125, 0.125, -0.125}}};
+        {handles::LinetypeByBlock, "ByBlock", "", {}},
+        {handles::LinetypeByLayer, "ByLayer", "", {}},
+        {handles::LinetypeContinuous, "Continuous", "Solid line", {}},
+        {handles::LinetypeHidden, "HIDDEN", "Hidden __ __ __ __ __ __", {0.25, -0.125}},
+        {handles::LinetypeCenter, "CENTER", "Center ____ _ ____ _ ____", {0.75, -0.125, 0.125, -0.125}}};
     for (const Linetype& linetype : linetypes)
         addRecord(records, linetypeEntry(linetype));
 }
@@ -127,7 +127,7 @@ Object styleEntry()
 {
     constexpr double lastHeight = 2.5;
     Object object =
-        beginTableEntry(ObjectType::Style, handles::standardStyle, handles::styleControl, "Standard");
+        beginTableEntry(ObjectType::Style, handles::StandardStyle, handles::StyleControl, "Standard");
     BitWriter& data = object.data();
     data.bits({false, false});        // not vertical, not a shape file
     data.bitDoubles({0.0, 1.0, 0.0}); // height, width factor, slant
@@ -141,21 +141,21 @@ Object styleEntry()
 Object applicationEntry()
 {
     Object object =
-        beginTableEntry(ObjectType::Application, handles::application, handles::applicationControl, "ACAD");
+        beginTableEntry(ObjectType::Application, handles::Application, handles::ApplicationControl, "ACAD");
     object.data().rawChar(0);
     return object;
 }
 
 Object dimensionStyleEntry()
 {
-    Object object = beginTableEntry(ObjectType::DimensionStyle, handles::standardDimensionStyle,
-                                    handles::dimensionStyleControl, "Standard");
+    Object object = beginTableEntry(ObjectType::DimensionStyle, handles::StandardDimensionStyle,
+                                    handles::DimensionStyleControl, "Standard");
     writeDimensionVariables(object.data());
     object.data().bitShorts({-2, -2}); // DIMLWD, DIMLWE: by block
     object.data().bit(false);
-    object.refer(hardPointer(handles::standardStyle));
+    object.refer(hardPointer(handles::StandardStyle));
     for (int arrowhead = 0; arrowhead < 4; ++arrowhead)
-        object.refer(hardPointer(handles::none));
+        object.refer(hardPointer(handles::None));
     return object;
 }
 
@@ -178,7 +178,7 @@ Object viewportEntry(const Document& document)
 {
     constexpr double spacing = 1.0;
     Object object =
-        beginTableEntry(ObjectType::Viewport, handles::activeViewport, handles::viewportControl, "*Active");
+        beginTableEntry(ObjectType::Viewport, handles::ActiveViewport, handles::ViewportControl, "*Active");
     BitWriter& data = object.data();
     writeView(data, document.extents);
     data.bits({false, false, false, true}); // view mode
@@ -202,8 +202,8 @@ Object viewportEntry(const Document& document)
     data.bitDoubles({0.0, 1.0, 0.0});
     data.bitDouble(0.0);                      // elevation
     data.bitShort(0);                         // not orthographic
-    object.refer(hardPointer(handles::none)); // its named and its base coordinate system
-    object.refer(hardPointer(handles::none));
+    object.refer(hardPointer(handles::None)); // its named and its base coordinate system
+    object.refer(hardPointer(handles::None));
     return object;
 }
 
@@ -219,8 +219,8 @@ Object beginTableEntry(ObjectType type, Handle handle, Handle control, std::stri
     object.data().bitShort(0);
     object.data().bit(false);
     object.refer(softPointer(control));
-    object.refer(hardOwner(handles::none));
-    object.refer(hardPointer(handles::none)); // external drawing
+    object.refer(hardOwner(handles::None));
+    object.refer(hardPointer(handles::None)); // external drawing
     return object;
 }
 

@@ -9,7 +9,7 @@ namespace devhost
 namespace
 {
 
-const char defaultTourFolder[] = "out/tour";
+const char DefaultTourFolder[] = "out/tour";
 
 /// The folder after --tour can be left out, which the parser has no means for.
 QStringList withTourFolder(QStringList arguments)
@@ -18,7 +18,7 @@ QStringList withTourFolder(QStringList arguments)
     if (tour < 0)
         return arguments;
     const bool hasFolder = tour + 1 < arguments.size() && !arguments.at(tour + 1).startsWith('-');
-    arguments[tour] = "--tour=" + (hasFolder ? arguments.takeAt(tour + 1) : QString(defaultTourFolder));
+    arguments[tour] = "--tour=" + (hasFolder ? arguments.takeAt(tour + 1) : QString(DefaultTourFolder));
     return arguments;
 }
 

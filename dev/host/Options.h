@@ -33,7 +33,7 @@ struct Options {
     QStringList searchTerms; ///< Of the tour, at least one.
 };
 
-/// Reads the program's arguments. Help is printed, and ends the program, as the toolkit does it.
+/// Reads the program's arguments. Help is printed, and ends the program, as Qt does it.
 /// @param arguments with the program's name first.
 /// @param error receives one sentence when an argument is wrong; else it stays empty.
 Options parseOptions(const QStringList& arguments, const QString& defaultLibrary, QString* error);

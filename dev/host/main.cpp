@@ -29,7 +29,7 @@ bool trust(const QString& caFile)
     return added;
 }
 
-/// Off the screen the toolkit's own font is larger than a desktop's, and a narrow pane looks worse than it
+/// Off the screen Qt's own font is larger than a desktop's, and a narrow pane looks worse than it
 /// is.
 void useDesktopFontSize()
 {

@@ -16,16 +16,16 @@ namespace
 
 // What a user sees of the add-in, in the order of effectsOfAScenario().
 const QString command = "command toggles the pane";
-const QString lightIcon = "light icon";
-const QString menuEntry = "menu entry";
-const QString button = "ribbon button";
-const QString binding = "entry and button run the user command";
-const QString helpFile = "help file";
-const QString webHelp = "web help";
+const QString LightIcon = "light icon";
+const QString MenuEntry = "menu entry";
+const QString Button = "ribbon button";
+const QString Binding = "entry and button run the user command";
+const QString HelpFile = "help file";
+const QString WebHelp = "web help";
 const QString login = "login";
-const QString prompt = "prompt";
-const QString block = "block";
-const QString cleanEnd = "nothing left in the host";
+const QString Prompt = "prompt";
+const QString Block = "block";
+const QString CleanEnd = "nothing left in the host";
 
 /// One SDK call and what is lost when it does nothing.
 struct Failure {
@@ -33,52 +33,52 @@ struct Failure {
     QStringList lost;
 };
 
-const QStringList all{command, lightIcon, menuEntry, button, binding, helpFile,
-                      webHelp, login,     prompt,    block,  cleanEnd};
-const QStringList panel{helpFile, webHelp, login, prompt, block};
+const QStringList All{command, LightIcon, MenuEntry, Button, Binding, HelpFile,
+                      WebHelp, login,     Prompt,    Block,  CleanEnd};
+const QStringList Panel{HelpFile, WebHelp, login, Prompt, Block};
 
-const Failure failures[] = {
+const Failure Failures[] = {
     {"GetLanguage", {}},
     {"CreateCommand", {command}},
     {"Command.RegisterEvent", {command}},
-    {"GetApplicationOptions", {lightIcon}},
+    {"GetApplicationOptions", {LightIcon}},
     {"ApplicationOptions.GetApplicationOptionInt16", {}},
-    {"CreateUserCommand", {lightIcon, binding}},
-    {"UserCommand.GetID", {binding}},
-    {"GetMenuItems", {menuEntry, binding}},
-    {"MenuItem.GetID", {menuEntry, binding}}, // in the last menu
-    {"MenuItem.InsertMenuItem", {menuEntry, binding}},
-    {"GetWorkspace", {button, binding}},
-    {"Workspace.GetRibbonTabs", {button, binding}},
+    {"CreateUserCommand", {LightIcon, Binding}},
+    {"UserCommand.GetID", {Binding}},
+    {"GetMenuItems", {MenuEntry, Binding}},
+    {"MenuItem.GetID", {MenuEntry, Binding}}, // in the last menu
+    {"MenuItem.InsertMenuItem", {MenuEntry, Binding}},
+    {"GetWorkspace", {Button, Binding}},
+    {"Workspace.GetRibbonTabs", {Button, Binding}},
     {"RibbonTab.get_Name", {}},
-    {"RibbonTab.GetApiID", {button, binding}},
-    {"RibbonTab.GetRibbonPanels", {button, binding}},
+    {"RibbonTab.GetApiID", {Button, Binding}},
+    {"RibbonTab.GetRibbonPanels", {Button, Binding}},
     {"RibbonPanel.get_Name", {}},
-    {"RibbonPanel.GetApiID", {button, binding}},
-    {"RibbonPanel.GetRibbonRow", {button, binding}},
-    {"RibbonRow.GetApiID", {button, binding}},
-    {"RibbonRow.InsertRibbonCommandButton", {button, binding}},
+    {"RibbonPanel.GetApiID", {Button, Binding}},
+    {"RibbonPanel.GetRibbonRow", {Button, Binding}},
+    {"RibbonRow.GetApiID", {Button, Binding}},
+    {"RibbonRow.InsertRibbonCommandButton", {Button, Binding}},
     {"RibbonRow.GetRibbonRowItems", {}}, // the host removes what was left of the registrations
     {"RibbonRowItem.GetApiID", {}},
     {"RibbonRowItem.Remove", {}},
-    {"CreateCustomPropertyControl2", QStringList{command} + panel},
-    {"CustomPropertyControl.GetHWND", panel},
+    {"CreateCustomPropertyControl2", QStringList{command} + Panel},
+    {"CustomPropertyControl.GetHWND", Panel},
     {"CustomPropertyControl.get_Visible", {command}},
     {"CustomPropertyControl.put_Visible", {command}},
-    {"CustomPropertyControl.Destroy", {cleanEnd}},
-    {"IsWebHelpEnabled", {webHelp}},
+    {"CustomPropertyControl.Destroy", {CleanEnd}},
+    {"IsWebHelpEnabled", {WebHelp}},
     {"GetWebLink", {}},
-    {"OpenWebHelp", {webHelp}},
-    {"GetSystemFiles", {helpFile}},
-    {"SystemFiles.get_HelpFile", {helpFile}},
-    {"OpenChmHelp", {helpFile}},
-    {"GetActiveDocument", {prompt, block}},
-    {"GetCommandMessage", {prompt, block}},
-    {"CommandMessage.PromptForBlockInsertion", {prompt, block}},
-    {"Document.GetModel", {block}},
-    {"Model.GetSketchManager", {block}},
-    {"SketchManager.InsertBlock2", {block}},
-    {"RemoveUserInterface", {cleanEnd}},
+    {"OpenWebHelp", {WebHelp}},
+    {"GetSystemFiles", {HelpFile}},
+    {"SystemFiles.get_HelpFile", {HelpFile}},
+    {"OpenChmHelp", {HelpFile}},
+    {"GetActiveDocument", {Prompt, Block}},
+    {"GetCommandMessage", {Prompt, Block}},
+    {"CommandMessage.PromptForBlockInsertion", {Prompt, Block}},
+    {"Document.GetModel", {Block}},
+    {"Model.GetSketchManager", {Block}},
+    {"SketchManager.InsertBlock2", {Block}},
+    {"RemoveUserInterface", {CleanEnd}},
 };
 
 } // namespace
@@ -168,7 +168,7 @@ QStringList FailingHostTest::effectsOfAScenario()
         placeABlock();
     }
     m_addIn->disconnect();
-    note(m_addIn->registrations().isEmpty() && m_addIn->host().panes().empty(), cleanEnd);
+    note(m_addIn->registrations().isEmpty() && m_addIn->host().panes().empty(), CleanEnd);
     return m_seen;
 }
 
@@ -188,12 +188,12 @@ void FailingHostTest::note(bool isSeen, const QString& effect)
 void FailingHostTest::lookAtRegistrations()
 {
     const auto userCommand = m_addIn->host().findUserCommand("UserCommand_3DPH");
-    note(userCommand && userCommand->properties().largeIcon == ":/3DPH/Resource/3DPH_32x-32.svg", lightIcon);
+    note(userCommand && userCommand->properties().largeIcon == ":/3DPH/Resource/3DPH_32x-32.svg", LightIcon);
     const QStringList entries = m_addIn->registrations().filter("ID_Import/3: 3DPH");
     const QStringList buttons = m_addIn->registrations().filter("ID_ImportTab/ID_ImportPanel: 3DPH");
-    note(entries.size() == 1, menuEntry);
-    note(buttons.size() == 1, button);
-    note((entries + buttons).filter("UserCommand_3DPH").size() == 2, binding);
+    note(entries.size() == 1, MenuEntry);
+    note(buttons.size() == 1, Button);
+    note((entries + buttons).filter("UserCommand_3DPH").size() == 2, Binding);
 }
 
 void FailingHostTest::askForHelp()
@@ -203,13 +203,13 @@ void FailingHostTest::askForHelp()
         QTest::mouseClick(m_addIn->shown("HelpButton"), Qt::LeftButton);
     }
     const QStringList& opened = m_addIn->view().openedHelp();
-    note(opened.contains("Help/PlotvaneKT.chm#15050"), helpFile);
-    note(!opened.filter("?P=16&L=").isEmpty(), webHelp);
+    note(opened.contains("Help/PlotvaneKT.chm#15050"), HelpFile);
+    note(!opened.filter("?P=16&L=").isEmpty(), WebHelp);
 }
 
 void FailingHostTest::logIn()
 {
-    // Both pages have their key: only then can the panel search.
+    // Both pages have their key: only then can the Panel search.
     QVERIFY(test::waitUntil([this] { return m_addIn->warnings().debugLines().size() == 4; }));
     QTest::keyClicks(m_addIn->shown("QLineEdit", "email_lineEdit"), "a@b.example");
     QTest::keyClicks(m_addIn->shown("QLineEdit", "Pass_lineEdit_2"), "secret");
@@ -227,19 +227,19 @@ void FailingHostTest::placeABlock()
     QVERIFY(test::waitUntil(
         [this] { return m_addIn->catalog().service().requests("GetConfigParams").size() == 1; }));
     QTest::mouseClick(m_addIn->shown("ClickableLabel"), Qt::LeftButton);
-    // The last call of the scenario that the add-in makes in every host. The prompt follows in the same turn.
+    // The last call of the scenario that the add-in makes in every host. The Prompt follows in the same turn.
     QVERIFY(
         test::waitUntil([this] { return m_addIn->host().journal().names().contains("GetCommandMessage"); }));
-    note(!m_addIn->view().prompts().empty(), prompt);
-    note(m_addIn->host().activeDocument()->blocks().objects().size() == 1, block);
+    note(!m_addIn->view().prompts().empty(), Prompt);
+    note(m_addIn->host().activeDocument()->blocks().objects().size() == 1, Block);
 }
 
 void FailingHostTest::everyCallIsInTheTable()
 {
-    QCOMPARE(effectsOfAScenario(), all);
+    QCOMPARE(effectsOfAScenario(), All);
     QStringList called = m_addIn->host().journal().names();
     QStringList inTable;
-    for (const Failure& failure : failures)
+    for (const Failure& failure : Failures)
         inTable.append(failure.call);
     called.sort();
     inTable.sort();
@@ -252,15 +252,15 @@ void FailingHostTest::oneCallFails_data()
     QTest::addColumn<pvResult>("result");
     QTest::addColumn<Outcome>("outcome");
     QTest::addColumn<QStringList>("lost");
-    for (const Failure& failure : failures) {
+    for (const Failure& failure : Failures) {
         QTest::addRow("%s refuses", failure.call)
             << failure.call << PVRESULT_False << Outcome::Nothing << failure.lost;
         QTest::addRow("%s claims success and gives nothing", failure.call)
             << failure.call << PVRESULT_True << Outcome::Nothing << failure.lost;
-        // Only for the pane does the result code count; its control is there all the same.
+        // Only for the pane does the result code count; its control is there All the same.
         const bool isPane = failure.call == QLatin1String("CreateCustomPropertyControl2");
         QTest::addRow("%s works and claims failure", failure.call)
-            << failure.call << PVRESULT_False << Outcome::Usual << (isPane ? panel : QStringList());
+            << failure.call << PVRESULT_False << Outcome::Usual << (isPane ? Panel : QStringList());
     }
 }
 
@@ -271,7 +271,7 @@ void FailingHostTest::oneCallFails()
     QFETCH(Outcome, outcome);
     QFETCH(QStringList, lost);
     m_addIn->host().answers().fail(call, result, outcome);
-    QStringList expected = all;
+    QStringList expected = All;
     for (const QString& effect : lost)
         expected.removeAll(effect);
     QCOMPARE(effectsOfAScenario(), expected);

@@ -10,7 +10,7 @@ namespace
 {
 
 // clang-format off
-const QStringList connectCalls{
+const QStringList ConnectCalls{
     R"(GetLanguage())",
     R"(CreateCommand("5B1C0F4E-27D3-4A96-8E21-0C7DA4E39F52", "3DPH"))",
     R"(Command[3DPH].RegisterEvent(1, pointer, pointer))",
@@ -44,7 +44,7 @@ const QStringList connectCalls{
     R"(CustomPropertyControl.GetHWND())",
     R"(CustomPropertyControl.put_Visible(true))",
 };
-const QStringList disconnectCalls{
+const QStringList DisconnectCalls{
     R"(GetWorkspace("Drafting and Annotation"))",
     R"(Workspace[Drafting and Annotation].GetRibbonTabs())",
     R"(RibbonTab[ID_HomeTab].GetApiID())",
@@ -66,8 +66,8 @@ const QStringList disconnectCalls{
 };
 // clang-format on
 
-const QStringList hide{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(false)"};
-const QStringList show{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(true)"};
+const QStringList Hide{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(false)"};
+const QStringList Show{"CustomPropertyControl.get_Visible()", "CustomPropertyControl.put_Visible(true)"};
 
 } // namespace
 
@@ -100,24 +100,24 @@ void HostCallsTest::cleanup()
 void HostCallsTest::aConnectionFromStartToEnd()
 {
     HostApplication& host = m_addIn->host();
-    QCOMPARE(m_addIn->library().identifier(), test::addInIdentifier);
+    QCOMPARE(m_addIn->library().identifier(), test::AddInIdentifier);
     QVERIFY(m_addIn->disconnect());
     QCOMPARE(m_addIn->takeCalls(), QStringList());
 
     for (int round = 1; round <= 2; ++round) {
         QVERIFY(m_addIn->connect());
-        QCOMPARE(m_addIn->takeCalls(), connectCalls);
+        QCOMPARE(m_addIn->takeCalls(), ConnectCalls);
         QVERIFY(host.runCommand("3DPH"));
-        QCOMPARE(m_addIn->takeCalls(), hide);
+        QCOMPARE(m_addIn->takeCalls(), Hide);
         QVERIFY(host.runCommand("3DPH"));
-        QCOMPARE(m_addIn->takeCalls(), show);
+        QCOMPARE(m_addIn->takeCalls(), Show);
         m_addIn->view().paneWidget()->hide(); // by the user: what the host says decides
         QVERIFY(host.runUserCommand("UserCommand_3DPH"));
-        QCOMPARE(m_addIn->takeCalls(), show);
-        QCOMPARE(m_addIn->library().identifier(), test::addInIdentifier);
+        QCOMPARE(m_addIn->takeCalls(), Show);
+        QCOMPARE(m_addIn->library().identifier(), test::AddInIdentifier);
 
         QVERIFY(m_addIn->disconnect());
-        QCOMPARE(m_addIn->takeCalls(), disconnectCalls);
+        QCOMPARE(m_addIn->takeCalls(), DisconnectCalls);
         QCOMPARE(m_addIn->registrations(), QStringList());
         QVERIFY(m_addIn->view().paneWidget() == nullptr);
         QVERIFY(m_addIn->disconnect());
@@ -141,7 +141,7 @@ void HostCallsTest::aSecondConnectIsRefused()
     QVERIFY(!pane.isNull());
 
     QVERIFY(m_addIn->disconnect()); // from the first
-    QCOMPARE(m_addIn->takeCalls(), disconnectCalls);
+    QCOMPARE(m_addIn->takeCalls(), DisconnectCalls);
     QVERIFY(m_addIn->library().connect(other.get()));
     QVERIFY(other->journal().lines().size() > 1);
     QVERIFY(m_addIn->disconnect());

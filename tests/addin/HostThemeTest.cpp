@@ -9,9 +9,9 @@
 namespace
 {
 
-const QString lightIcon = ":/3DPH/Resource/3DPH_32x-32.svg";
-const QString darkIcon = ":/3DPH/Resource/Dark/3DPH-32.svg";
-const QString optionRead = "ApplicationOptions.GetApplicationOptionInt16(48)";
+const QString LightIcon = ":/3DPH/Resource/3DPH_32x-32.svg";
+const QString DarkIcon = ":/3DPH/Resource/Dark/3DPH-32.svg";
+const QString OptionRead = "ApplicationOptions.GetApplicationOptionInt16(48)";
 
 QString darkSheet()
 {
@@ -67,7 +67,7 @@ test::SeenMessageBox HostThemeTest::errorBox()
 
 int HostThemeTest::optionReads()
 {
-    return m_addIn->takeCalls().count(optionRead);
+    return m_addIn->takeCalls().count(OptionRead);
 }
 
 using Arrangement = std::function<void(devhost::HostApplication&)>;
@@ -83,13 +83,13 @@ void HostThemeTest::iconsAndBoxes_data()
                         int reads) { QTest::newRow(name) << arrange << icon << darkBoxes << reads; };
 
     row(
-        "dark", [](auto& host) { host.settings().darkTheme = true; }, darkIcon, true, 1);
+        "dark", [](auto& host) { host.settings().darkTheme = true; }, DarkIcon, true, 1);
     row(
         "no options", [](auto& host) { host.answers().fail("GetApplicationOptions", PVRESULT_False); },
-        darkIcon, true, 0);
+        DarkIcon, true, 0);
     row(
-        "no value", [](auto& host) { host.answers().fail(optionRead.section('(', 0, 0), PVRESULT_False); },
-        lightIcon, false, 1);
+        "no value", [](auto& host) { host.answers().fail(OptionRead.section('(', 0, 0), PVRESULT_False); },
+        LightIcon, false, 1);
     row(
         "name taken, light", [](auto& host) { host.addCommand("3DPH"); }, QString(), true, 0);
 }
@@ -123,7 +123,7 @@ void HostThemeTest::theFirstThemeStays()
         hostIsDark = dark;
         m_addIn->connect();
         const QStringList first = icons();
-        QCOMPARE(first.first(), dark ? darkIcon : lightIcon);
+        QCOMPARE(first.first(), dark ? DarkIcon : LightIcon);
         hostIsDark = !dark;
         QCOMPARE(errorBox().styleSheet.isEmpty(), !dark);
 
@@ -149,7 +149,7 @@ void HostThemeTest::anUnreadThemeIsReadLater()
     m_addIn->disconnect();
     m_addIn->host().answers().clear();
     m_addIn->connect();
-    QCOMPARE(icons().first(), lightIcon);
+    QCOMPARE(icons().first(), LightIcon);
     QVERIFY(errorBox().styleSheet.isEmpty());
 }
 

@@ -6,7 +6,7 @@
 namespace test
 {
 
-const QString addInIdentifier = "5B1C0F4E-27D3-4A96-8E21-0C7DA4E39F52";
+const QString AddInIdentifier = "5B1C0F4E-27D3-4A96-8E21-0C7DA4E39F52";
 
 LoadedAddIn::LoadedAddIn()
     : m_host(std::make_shared<devhost::HostApplication>(m_view)),
@@ -67,7 +67,7 @@ QStringList LoadedAddIn::registrations() const
 {
     QStringList lines;
     for (const auto& command : m_host->commands().objects())
-        if (command->appID() == addInIdentifier)
+        if (command->appID() == AddInIdentifier)
             lines.append("command " + command->name());
     for (const auto& userCommand : m_host->userCommands().objects())
         lines.append("user command " + userCommand->id());
@@ -75,7 +75,7 @@ QStringList LoadedAddIn::registrations() const
         const auto entries = menu->entries().objects();
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const devhost::HostMenuItem::Properties& entry = entries[i]->properties();
-            if (entry.appID == addInIdentifier)
+            if (entry.appID == AddInIdentifier)
                 lines.append(
                     QString("%1/%2: %3 %4").arg(menu->id()).arg(i).arg(entry.caption, entry.userCommandID));
         }
@@ -86,7 +86,7 @@ QStringList LoadedAddIn::registrations() const
                 if (panel->row() == nullptr)
                     continue;
                 for (const auto& button : panel->row()->buttons().objects()) {
-                    if (button->id() == addInIdentifier)
+                    if (button->id() == AddInIdentifier)
                         lines.append(QString("%1/%2: %3 %4")
                                          .arg(tab->id(), panel->id(), button->properties().caption,
                                               button->properties().userCommandID));

@@ -84,6 +84,6 @@ bool waitUntil(Condition condition)
 }
 
 /// The add-in's identifier, with which it registers everything.
-extern const QString addInIdentifier;
+extern const QString AddInIdentifier;
 
 } // namespace test

@@ -11,7 +11,7 @@ namespace
 {
 
 /// What the files translate, by context.
-const QMap<QString, QStringList> messages{
+const QMap<QString, QStringList> Messages{
     {"PartHarbor_2D",
      {" 4 View",
       " Back",
@@ -42,7 +42,7 @@ const QMap<QString, QStringList> messages{
 };
 
 // By the host's number of the language; empty where the add-in stays in English.
-const QStringList locales{"",   "de", "en", "tr", "", "pl", "ja", "fr", "zh", "zh", "it",
+const QStringList Locales{"",   "de", "en", "tr", "", "pl", "ja", "fr", "zh", "zh", "it",
                           "es", "",   "ko", "",   "", "",   "",   "ru", "pt", "",   ""};
 const QStringList files{
     "",        "german",  "en", "turkish", "", "polish", "japanese", "french", "chinese", "chinese-simple",
@@ -149,7 +149,7 @@ void TranslationsTest::everyFileTranslatesEveryMessage()
 
     const QDomNodeList elements = document.elementsByTagName("message");
     QCOMPARE(elements.count(), 31);
-    for (auto context = messages.cbegin(); context != messages.cend(); ++context)
+    for (auto context = Messages.cbegin(); context != Messages.cend(); ++context)
         for (const QString& text : context.value())
             QVERIFY2(!translator.translate(context.key().toUtf8(), text.toUtf8()).isEmpty(), text.toUtf8());
     for (int i = 0; i < elements.count(); ++i) {
@@ -195,7 +195,7 @@ void TranslationsTest::theHostsLanguage_data()
 void TranslationsTest::theHostsLanguage()
 {
     QFETCH(int, language);
-    const QLocale locale = locales[language].isEmpty() ? QLocale(QLocale::Dutch) : QLocale(locales[language]);
+    const QLocale locale = Locales[language].isEmpty() ? QLocale(QLocale::Dutch) : QLocale(Locales[language]);
     QLocale::setDefault(QLocale::Dutch);
     QTranslator expected;
     expected.load(compiled(files[language]));
@@ -208,7 +208,7 @@ void TranslationsTest::theHostsLanguage()
     const QString translation = expected.translate("QObject", "Preview");
     QCOMPARE(QCoreApplication::translate("QObject", "Preview"),
              translation.isEmpty() ? "Preview" : translation);
-    // The toolkit announces a translator that has texts, and at its removal any that was installed.
+    // Qt announces a translator that has texts, and at its removal any that was installed.
     QCOMPARE(changes.take(), expected.isEmpty() ? 0 : 1);
     m_addIn->disconnect();
     QCOMPARE(changes.take(), 1);

@@ -31,7 +31,7 @@ void countReplies(QtMsgType type, const QMessageLogContext& /*context*/, const Q
         QTest::qFail(qPrintable(text), __FILE__, __LINE__);
 }
 
-/// What a process must not gather. Each is the least of several looks: the toolkit puts some things off.
+/// What a process must not gather. Each is the least of several looks: Qt puts some things off.
 struct Holdings {
     int widgets = std::numeric_limits<int>::max();
     int openFiles = std::numeric_limits<int>::max();
@@ -123,7 +123,7 @@ void UnloadTest::nothingGrowsOverAHundredCycles()
     }
     QCOMPARE(late.widgets, early.widgets);
     QCOMPARE(late.openFiles, early.openFiles);
-    // The toolkit's own tables move by up to 4 KB either way; one object kept per cycle is more.
+    // Qt's own tables move by up to 4 KB either way; one object kept per cycle is more.
     const qint64 growth = late.heapBytes - early.heapBytes;
     QVERIFY2(growth < 8000, qPrintable(QString("the heap has grown by %1 bytes in 80 cycles").arg(growth)));
 }

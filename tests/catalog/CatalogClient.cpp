@@ -12,7 +12,7 @@ namespace test
 namespace
 {
 
-constexpr int patience = 20000; ///< ms
+constexpr int Patience = 20000; ///< ms
 
 HttpAnswer parseAnswer(const QByteArray& bytes)
 {
@@ -82,7 +82,7 @@ QByteArray CatalogClient::exchange(const QByteArray& bytes, qint64* sent) const
     socket.setSslConfiguration(m_tls);
     QSignalSpy disconnected(&socket, &QSslSocket::disconnected);
     socket.connectToHostEncrypted("127.0.0.1", static_cast<quint16>(m_port));
-    if (!socket.waitForEncrypted(patience))
+    if (!socket.waitForEncrypted(Patience))
         return {};
     if (sent) {
         *sent = 0;
@@ -91,7 +91,7 @@ QByteArray CatalogClient::exchange(const QByteArray& bytes, qint64* sent) const
     }
     socket.write(bytes);
     if (disconnected.isEmpty())
-        disconnected.wait(patience);
+        disconnected.wait(Patience);
     return socket.readAll();
 }
 

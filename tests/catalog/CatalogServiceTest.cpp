@@ -152,7 +152,7 @@ void CatalogServiceTest::searchesComeInPages()
 void CatalogServiceTest::everyViewIsDrawnOrEmpty()
 {
     const devcatalog::Part& part = m_fixture->catalog().parts().front();
-    for (const std::string_view view : devcatalog::drawingViews) {
+    for (const std::string_view view : devcatalog::DrawingViews) {
         RightForm download = m_fixture->form("GetDownload2D");
         download.value("drawingView") = QByteArray(view.data(), int(view.size()));
         const bool isSupported = drawPart(part, part.configurations.front(), view).has_value();

@@ -16,7 +16,7 @@ namespace
 {
 
 /// More than the buffers of two sockets hold, so that it goes out whole only to a server that reads it all.
-constexpr int floodSize = 32000000;
+constexpr int FloodSize = 32000000;
 
 /// Elements that a person's typing or the catalog's content fills.
 bool takesAnyText(const QByteArray& operation, const QByteArray& element)
@@ -259,7 +259,7 @@ void CatalogStrictnessTest::addHostileBodies() const
 void CatalogStrictnessTest::hostileConnectionsDoNoHarm_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    const QByteArray flood(floodSize, '1');
+    const QByteArray flood(FloodSize, '1');
     QTest::newRow("noise") << QByteArray("\0\1\2\3\r\n\r\n", 8);
     QTest::newRow("endless line") << flood;
     QTest::newRow("endless header") << "POST / HTTP/1.1\r\nX: " + flood;
@@ -278,7 +278,7 @@ void CatalogStrictnessTest::hostileConnectionsDoNoHarm()
     QFETCH(QByteArray, bytes);
     qint64 sent = 0;
     QVERIFY(!m_fixture->client().exchange(bytes, &sent).contains(" 200 "));
-    QVERIFY2(sent < floodSize, "the server reads without end");
+    QVERIFY2(sent < FloodSize, "the server reads without end");
     QCOMPARE(m_fixture->client().get("/Login.aspx").status, 200);
 }
 

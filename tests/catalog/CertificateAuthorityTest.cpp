@@ -15,7 +15,7 @@ using devcatalog::CertificateAuthority;
 namespace
 {
 
-constexpr std::time_t year = 366L * 24 * 60 * 60;
+constexpr std::time_t Year = 366L * 24 * 60 * 60;
 
 } // namespace
 
@@ -98,7 +98,7 @@ void CertificateAuthorityTest::theAuthorityIsKeptAndItsKeyTheOwnersAlone()
 #endif
 
     QFile::remove(path("ca.pem"));
-    openAuthority(8 * year);
+    openAuthority(8 * Year);
     QCOMPARE(contents("ca.pem"), pem);
     QCOMPARE(QDir(path("")).entryList(QDir::Files).size(), 2);
 }
@@ -107,8 +107,8 @@ void CertificateAuthorityTest::aSpentAuthorityIsRenewed_data()
 {
     QTest::addColumn<qint64>("later");
     QTest::addColumn<QByteArray>("damage");
-    QTest::newRow("about to end") << qint64(9.5 * year) << QByteArray();
-    QTest::newRow("clock set back") << -qint64(year) << QByteArray();
+    QTest::newRow("about to end") << qint64(9.5 * Year) << QByteArray();
+    QTest::newRow("clock set back") << -qint64(Year) << QByteArray();
     QTest::newRow("noise") << qint64(0) << QByteArray("-----BEGIN CERTIFICATE-----\nnoise");
 }
 

@@ -47,7 +47,7 @@ void PartCatalogTest::partsAreManyAndWhole()
         QVERIFY2(!names.isEmpty() && names.size() <= 4, part.name.c_str());
         QCOMPARE(static_cast<std::size_t>(names.size()), part.configurations.size());
         for (const std::string& view : part.unsupportedViews)
-            QVERIFY2(std::count(drawingViews.begin(), drawingViews.end(), view) == 1, view.c_str());
+            QVERIFY2(std::count(DrawingViews.begin(), DrawingViews.end(), view) == 1, view.c_str());
     }
     QVERIFY(m_catalog.parts().size() >= 300);
     QVERIFY(families.size() >= 12);

@@ -166,7 +166,7 @@ void PartDrawingTest::everyFamilyDrawsEveryView()
     // thread is left open.
     const bool hasLooseEnds =
         QStringList{"compression-spring", "bridge-handle", "hex-nut"}.contains(part->family.c_str());
-    for (const std::string_view wireName : drawingViews) {
+    for (const std::string_view wireName : DrawingViews) {
         const std::string view(wireName);
         const auto drawing = drawPart(*part, part->configurations.back(), view);
         const auto& unsupported = part->unsupportedViews;

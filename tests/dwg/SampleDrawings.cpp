@@ -16,7 +16,7 @@ namespace test
 namespace
 {
 
-constexpr double quarterTurn = 0.41421356237309503; // the bulge of a quarter of a circle
+constexpr double QuarterTurn = 0.41421356237309503; // the bulge of a quarter of a circle
 
 Entity line(LineKind kind, Point2 from, Point2 to)
 {
@@ -42,14 +42,14 @@ Drawing singleLine()
 Drawing arcs()
 {
     return {"Arcs",
-            {open(LineKind::Outline, {{{1, 0}, quarterTurn}, {{0, 1}, 0}}),
-             open(LineKind::Hidden, {{{4, 0}, -quarterTurn}, {{3, 1}, 0}}),
+            {open(LineKind::Outline, {{{1, 0}, QuarterTurn}, {{0, 1}, 0}}),
+             open(LineKind::Hidden, {{{4, 0}, -QuarterTurn}, {{3, 1}, 0}}),
              open(LineKind::Outline, {{{6, 0}, 2}, {{6, 1}, 0}}),
              // The closing line is straight, an arc, and an arc like all others.
              closed(LineKind::Outline, {{{0, 3}, 0}, {{2, 3}, 1}, {{2, 5}, 0}}),
              closed(LineKind::Outline, {{{6, 3}, 0}, {{8, 3}, 1}, {{8, 5}, 0}, {{6, 5}, 1}}),
              closed(LineKind::Centre, {{{10, 3}, 1}, {{12, 3}, 1}}),
-             closed(LineKind::Hidden, {{{10, 6}, -1}, {{12, 6}, -quarterTurn}, {{12, 8}, -1}})}};
+             closed(LineKind::Hidden, {{{10, 6}, -1}, {{12, 6}, -QuarterTurn}, {{12, 8}, -1}})}};
 }
 
 /// Numbers that have codes of their own, and ones at the ends of what is allowed.
@@ -95,7 +95,7 @@ void addPartDrawings(std::vector<SampleDrawing>& samples)
     const PartCatalog catalog;
     std::set<std::string> names;
     for (const Part& part : catalog.parts()) {
-        for (const std::string_view view : drawingViews) {
+        for (const std::string_view view : DrawingViews) {
             const std::string name = part.family + '-' + std::string(view);
             if (names.count(name) != 0)
                 continue;

@@ -28,8 +28,8 @@ QByteArray hex(const std::string& bytes)
     return QByteArray::fromStdString(bytes).toHex(' ');
 }
 
-/// The standard layers in the order of the line kinds, each with its colour.
-const QPair<QString, QString> layers[] = {
+/// The standard Layers in the order of the line kinds, each with its colour.
+const QPair<QString, QString> Layers[] = {
     {"Outline", "#FFFFFFFF"}, {"Hidden", "#828282FF"}, {"Centre", "#FF0000FF"}};
 
 /// A drawing as GDAL's CAD driver understands it.
@@ -174,7 +174,7 @@ void WriterTest::gdalReadsEveryDrawing()
         shown += static_cast<std::size_t>(layer->GetFeatureCount());
     QCOMPARE(shown, drawing.entities.size());
     for (const Entity& entity : drawing.entities) {
-        const auto& [name, colour] = layers[static_cast<int>(entity.kind)];
+        const auto& [name, colour] = Layers[static_cast<int>(entity.kind)];
         OGRLayer* const layer = read->GetLayerByName(qPrintable(name));
         QVERIFY2(layer, qPrintable(name));
         const OGRFeatureUniquePtr feature(layer->GetNextFeature());

@@ -1,5 +1,5 @@
 // Feeds reply bytes to the steps by which the add-in reads them. Under a stack of 1 MB, which is what Windows
-// gives a program; the toolkit is not instrumented, so the seeds carry the weight.
+// gives a program; Qt is not instrumented, so the seeds carry the weight.
 
 #include "service/ServiceOperations.h"
 #include "service/SoapReply.h"

@@ -5,17 +5,17 @@
 #include <QPushButton>
 #include <QtTest>
 
-using test::configInfoOperation;
-using test::configParamsOperation;
-using test::downloadOperation;
+using test::ConfigInfoOperationName;
+using test::ConfigParamsOperationName;
+using test::DownloadOperationName;
 using test::PanelFixture;
 using test::ScriptedReply;
-using test::searchOperation;
+using test::SearchOperationName;
 
 using Step = void (*)(PanelFixture&);
 Q_DECLARE_METATYPE(Step)
 
-// Outside of any namespace, as the toolkit wants it.
+// Outside of any namespace, as Qt wants it.
 static void dropBundle()
 {
     Q_CLEANUP_RESOURCE(DockWidget_3DPH);
@@ -91,10 +91,10 @@ void BundleTest::missingFiles_data()
     add("page", "Searchcatalog.xml", results, turnPage);
     add("back", "Searchcatalog.xml", part, goBack);
     add("open", "ConfigInfo.xml", results, open);
-    add("information", "output.xml", results, open, configInfoOperation);
-    add("parameters", "output.xml", results, open, configParamsOperation);
+    add("information", "output.xml", results, open, ConfigInfoOperationName);
+    add("parameters", "output.xml", results, open, ConfigParamsOperationName);
     add("download", "download.xml", part, download);
-    add("address", "output.xml", part, download, downloadOperation);
+    add("address", "output.xml", part, download, DownloadOperationName);
     add("login", "Login.xml", login, logIn);
 }
 
@@ -105,7 +105,7 @@ void BundleTest::missingFiles()
     QFETCH(Step, step);
     QFETCH(QString, held);
     m_panel->offerDrawing("/part.dwg", ScriptedReply::xml("drawing"));
-    m_panel->service().setReply(configParamsOperation, ScriptedReply::never()); // or it comes too late
+    m_panel->service().setReply(ConfigParamsOperationName, ScriptedReply::never()); // or it comes too late
     if (!held.isEmpty())
         m_panel->service().setReply(held, ScriptedReply::xml("<r/>").held());
     approach(*m_panel);
@@ -128,7 +128,7 @@ void BundleTest::missingFiles()
 void BundleTest::rowGoesUnderItsBox()
 {
     m_panel->showResults();
-    m_panel->service().setReply(searchOperation, ScriptedReply::xml("<r/>").held());
+    m_panel->service().setReply(SearchOperationName, ScriptedReply::xml("<r/>").held());
     m_panel->click("pushButton2");
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     dropBundle();

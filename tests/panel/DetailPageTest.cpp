@@ -13,10 +13,10 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-using test::configInfoOperation;
-using test::configParamsOperation;
+using test::ConfigInfoOperationName;
+using test::ConfigParamsOperationName;
 using test::configurationsReply;
-using test::downloadOperation;
+using test::DownloadOperationName;
 using test::PanelFixture;
 using test::ScriptedReply;
 
@@ -48,7 +48,7 @@ private:
     QLabel* configuration() const;
     void refuseDrawings();
     void toggle(int section);
-    QStringList viewsSent() const { return m_panel->sent(downloadOperation, "drawingView"); }
+    QStringList viewsSent() const { return m_panel->sent(DownloadOperationName, "drawingView"); }
 
     std::unique_ptr<PanelFixture> m_panel;
 };
@@ -65,7 +65,8 @@ QLabel* DetailPageTest::configuration() const
 void DetailPageTest::refuseDrawings()
 {
     m_panel->offerDrawing("/unused.dwg", ScriptedReply::never());
-    m_panel->service().setReply(downloadOperation, ScriptedReply::result(downloadOperation, QString()));
+    m_panel->service().setReply(DownloadOperationName,
+                                ScriptedReply::result(DownloadOperationName, QString()));
 }
 
 void DetailPageTest::configurations_data()
@@ -87,11 +88,11 @@ void DetailPageTest::configurations()
 {
     QFETCH(ScriptedReply, reply);
     QFETCH(QString, name);
-    m_panel->service().setReply(configInfoOperation, reply);
-    m_panel->service().setReply(configParamsOperation, reply);
+    m_panel->service().setReply(ConfigInfoOperationName, reply);
+    m_panel->service().setReply(ConfigParamsOperationName, reply);
     m_panel->openFirstPart(); // waits for the second request
     QCOMPARE(configuration()->text(), name);
-    QCOMPARE(m_panel->sent(configParamsOperation, "configName").first(), name);
+    QCOMPARE(m_panel->sent(ConfigParamsOperationName, "configName").first(), name);
     refuseDrawings();
     m_panel->clickPreview(); // the page goes on working
     QTRY_COMPARE(m_panel->boxTexts(), QStringList("Detailed View is not supported."));
@@ -99,7 +100,7 @@ void DetailPageTest::configurations()
 
 void DetailPageTest::lateConfigurationCounts()
 {
-    m_panel->service().setReply(configInfoOperation, configurationsReply({"Late"}).held());
+    m_panel->service().setReply(ConfigInfoOperationName, configurationsReply({"Late"}).held());
     m_panel->showResults();
     m_panel->clickThumbnail(2);
     const QLabel* label = configuration();
@@ -232,8 +233,8 @@ void DetailPageTest::longTextsAreNotCutOff()
 {
     QFETCH(int, width);
     const QString name = "Hexagon head bolt with shank, zinc plated, of product grade A, M8 x 40 - 8.8";
-    m_panel->service().setReply(test::searchOperation, test::searchReply({{name}}));
-    m_panel->service().setReply(configInfoOperation, configurationsReply({name + ", " + name}));
+    m_panel->service().setReply(test::SearchOperationName, test::searchReply({{name}}));
+    m_panel->service().setReply(ConfigInfoOperationName, configurationsReply({name + ", " + name}));
     m_panel->window().resize(width, 1000);
     const auto isWhole = [](const QLabel* label) {
         const QFontMetrics metrics(label->font());

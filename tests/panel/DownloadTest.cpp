@@ -13,7 +13,7 @@
 using devhost::BlockPrompt;
 using devhost::BlockPromptAnswer;
 using test::addressOf;
-using test::downloadOperation;
+using test::DownloadOperationName;
 using test::PanelFixture;
 using test::pictureReply;
 using test::ScriptedReply;
@@ -21,8 +21,8 @@ using test::ScriptedReply;
 namespace
 {
 
-const QByteArray drawing = "AC1015 a drawing";
-const QString drawingPath = "/files/part.dwg";
+const QByteArray Drawing = "AC1015 a drawing";
+const QString DrawingPath = "/files/part.dwg";
 const BlockPromptAnswer accepted{BlockPromptAnswer::Accepted, {1, 2, 3, 4, 5, 6, 7}};
 
 void writeFile(const QString& name, const QByteArray& content)
@@ -34,7 +34,7 @@ void writeFile(const QString& name, const QByteArray& content)
 
 } // namespace
 
-/// The download of a drawing and its way into the host.
+/// The download of a Drawing and its way into the host.
 class DownloadTest : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ void DownloadTest::init()
 {
     m_panel = std::make_unique<PanelFixture>();
     m_panel->host().newDocument();
-    m_panel->offerDrawing(drawingPath, pictureReply(drawing));
+    m_panel->offerDrawing(DrawingPath, pictureReply(Drawing));
     m_panel->openFirstPart();
     m_panel->host().journal().clear();
 }
@@ -101,7 +101,7 @@ void DownloadTest::waitForDownload()
     QTRY_VERIFY(m_panel->shown<PreviewUI>()->findChildren<QNetworkAccessManager*>().isEmpty());
 }
 
-/// Downloads a drawing to its end.
+/// Downloads a Drawing to its end.
 void DownloadTest::downloadAnother()
 {
     const int before = g_downloadCounter;
@@ -127,7 +127,7 @@ void DownloadTest::needsALogin()
     m_panel->closePaneWithNextBox();
     m_panel->clickPreview();
     QVERIFY(!m_panel->isPaneOpen());
-    QVERIFY(m_panel->service().requests(downloadOperation).isEmpty());
+    QVERIFY(m_panel->service().requests(DownloadOperationName).isEmpty());
 }
 
 void DownloadTest::drawingIsInserted()
@@ -140,7 +140,7 @@ void DownloadTest::drawingIsInserted()
     m_panel->clickPreview();
     QTRY_COMPARE(insertions().size(), 1);
     QCOMPARE(cited, '"' + QDir::currentPath() + "/part0.dwg\"");
-    QCOMPARE(m_panel->service().requests(drawingPath)[0].method, QByteArray("GET"));
+    QCOMPARE(m_panel->service().requests(DrawingPath)[0].method, QByteArray("GET"));
     const QString id = '[' + m_panel->host().activeDocument()->name() + ']';
     QCOMPARE(m_panel->host().journal().lines(),
              QStringList({"GetActiveDocument()", "GetCommandMessage()", "Document" + id + ".GetModel()",
@@ -214,7 +214,7 @@ void DownloadTest::fileNames()
 {
     QFETCH(QString, name);
     const QString address = addressOf(QTest::currentDataTag());
-    m_panel->service().setReply(downloadOperation, ScriptedReply::result(downloadOperation, address));
+    m_panel->service().setReply(DownloadOperationName, ScriptedReply::result(DownloadOperationName, address));
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->view().prompts().size(), std::size_t(1));
     QCOMPARE(m_panel->view().prompts()[0].file, QDir::currentPath() + '/' + name);
@@ -241,7 +241,7 @@ void DownloadTest::formerFilesGo()
     QTRY_COMPARE(prompted(), QStringList("part0.dwg"));
     // Overwritten, not truncated.
     QCOMPARE(m_panel->view().promptedContents()[0],
-             drawing + QByteArray("longer than the drawing that comes").mid(drawing.size()));
+             Drawing + QByteArray("longer than the drawing that comes").mid(Drawing.size()));
     QTRY_COMPARE(m_panel->files(), QStringList("other.dwg"));
 }
 
@@ -250,7 +250,7 @@ void DownloadTest::drawingIsCompleteAtThePrompt()
     QByteArray large(3 * 1000 * 1000, '\0');
     for (int i = 0; i < large.size(); ++i)
         large[i] = static_cast<char>(i * 7);
-    m_panel->service().setReply(drawingPath, pictureReply(large).heldAfter(large.size() / 2));
+    m_panel->service().setReply(DrawingPath, pictureReply(large).heldAfter(large.size() / 2));
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     QTRY_COMPARE(m_panel->files(), QStringList("part0.dwg"));
@@ -267,9 +267,9 @@ void DownloadTest::whatTheNetworkLeavesIsOffered_data()
     QTest::addColumn<ScriptedReply>("reply");
     QTest::addColumn<QByteArray>("content");
     const auto addReply = [](const char* name, const ScriptedReply& reply, const QByteArray& content) {
-        QTest::newRow(name) << addressOf(drawingPath) << reply << content;
+        QTest::newRow(name) << addressOf(DrawingPath) << reply << content;
     };
-    addReply("cut short", ScriptedReply::cutShort(drawing, 100), drawing);
+    addReply("cut short", ScriptedReply::cutShort(Drawing, 100), Drawing);
     addReply("empty", pictureReply({}), {});
     addReply("reset", ScriptedReply::reset(), {});
     addReply("no HTTP", ScriptedReply::raw("?"), {});
@@ -278,7 +278,7 @@ void DownloadTest::whatTheNetworkLeavesIsOffered_data()
     // Addresses that nothing is fetched from.
     for (const char* address : {"file://%1/elsewhere/secret.dwg", "file:///dev/zero", "data:,secret.dwg",
                                 "qrc:/3DPH/Login.xml", "secret.dwg", "https://["})
-        QTest::newRow(address) << QString(address) << pictureReply(drawing) << QByteArray();
+        QTest::newRow(address) << QString(address) << pictureReply(Drawing) << QByteArray();
 }
 
 void DownloadTest::whatTheNetworkLeavesIsOffered()
@@ -288,8 +288,8 @@ void DownloadTest::whatTheNetworkLeavesIsOffered()
     QDir().mkdir("elsewhere");
     writeFile("elsewhere/secret.dwg", "secret");
     address.replace("%1", QDir::currentPath());
-    m_panel->service().setReply(downloadOperation, ScriptedReply::result(downloadOperation, address));
-    m_panel->service().setReply(drawingPath, reply);
+    m_panel->service().setReply(DownloadOperationName, ScriptedReply::result(DownloadOperationName, address));
+    m_panel->service().setReply(DrawingPath, reply);
     m_panel->clickPreview();
     QTRY_COMPARE(prompted().size(), 1);
     QTEST(m_panel->view().promptedContents()[0], "content");
@@ -307,13 +307,13 @@ void DownloadTest::unusableFileNames()
 {
     QFETCH(QString, path);
     QDir().mkdir("taken0.dwg");
-    m_panel->offerDrawing(path, pictureReply(drawing));
+    m_panel->offerDrawing(path, pictureReply(Drawing));
     m_panel->clickPreview();
     QTRY_COMPARE(g_downloadCounter, 1);
     QVERIFY(m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame")->isEnabled());
     QVERIFY(QDir("taken0.dwg").exists());
 
-    m_panel->offerDrawing(drawingPath, pictureReply(drawing));
+    m_panel->offerDrawing(DrawingPath, pictureReply(Drawing));
     m_panel->clickPreview(); // the next one works
     QTRY_COMPARE(prompted(), QStringList("part1.dwg"));
     QVERIFY(m_panel->service().requests(path).isEmpty());
@@ -334,17 +334,18 @@ void DownloadTest::frameIsDisabledForAMoment()
         QList<bool> states;
     } watch;
     m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame")->installEventFilter(&watch);
-    m_panel->service().setReply(drawingPath, pictureReply(drawing).held());
+    m_panel->service().setReply(DrawingPath, pictureReply(Drawing).held());
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
-    QCOMPARE(watch.states, QList<bool>({false, true})); // long before the drawing is there
+    QCOMPARE(watch.states, QList<bool>({false, true})); // long before the Drawing is there
     QVERIFY(m_panel->container()->isAncestorOf(QApplication::focusWidget())); // nor has the focus gone
 }
 
 void DownloadTest::newerClickDropsTheRequest()
 {
     m_panel->service().enqueue(
-        downloadOperation, ScriptedReply::result(downloadOperation, addressOf("/files/older.dwg")).held());
+        DownloadOperationName,
+        ScriptedReply::result(DownloadOperationName, addressOf("/files/older.dwg")).held());
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     m_panel->clickPreview();
@@ -357,7 +358,7 @@ void DownloadTest::newerClickDropsTheRequest()
 
 void DownloadTest::newerClickDropsTheFile()
 {
-    m_panel->service().enqueue(drawingPath, pictureReply(drawing).heldAfter(5));
+    m_panel->service().enqueue(DrawingPath, pictureReply(Drawing).heldAfter(5));
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->files(), QStringList("part0.dwg"));
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
@@ -395,22 +396,22 @@ void DownloadTest::newestDrawingWaitsForThePrompt()
     m_panel->clickPreview();
     QTRY_COMPARE(prompted(), QStringList({"part0.dwg", "part2.dwg"}));
     QCOMPARE(during, QStringList({"part0.dwg", "part2.dwg"}));
-    QCOMPARE(m_panel->view().promptedContents()[1], drawing);
+    QCOMPARE(m_panel->view().promptedContents()[1], Drawing);
     QTRY_VERIFY(m_panel->files().isEmpty());
     QCOMPARE(insertions().size(), 2);
     QVERIFY(insertions()[0].contains("part0.dwg") && insertions()[1].contains("part2.dwg"));
     const QStringList models{"Part 1", otherPages ? "Part 2" : "Part 1", otherPages ? "Part 3" : "Part 1"};
-    QCOMPARE(m_panel->sent(downloadOperation, "modelName"), models);
+    QCOMPARE(m_panel->sent(DownloadOperationName, "modelName"), models);
 }
 
-/// The newer drawing is still coming when the prompt returns, and must not be offered before it is complete.
+/// The newer Drawing is still coming when the prompt returns, and must not be offered before it is complete.
 void DownloadTest::newerClickDropsAWaitingDrawing()
 {
     m_panel->view().answerPrompts([&](const BlockPrompt&) {
         if (prompted().size() > 1)
             return accepted;
         downloadAnother();
-        m_panel->service().enqueue(drawingPath, pictureReply(drawing).heldAfter(5));
+        m_panel->service().enqueue(DrawingPath, pictureReply(Drawing).heldAfter(5));
         m_panel->clickPreview();
         [this] { QTRY_COMPARE(m_panel->service().heldCount(), 1); }();
         return accepted;
@@ -420,7 +421,7 @@ void DownloadTest::newerClickDropsAWaitingDrawing()
     QCOMPARE(prompted(), QStringList("part0.dwg"));
     m_panel->service().releaseAll();
     QTRY_COMPARE(prompted(), QStringList({"part0.dwg", "part2.dwg"}));
-    QCOMPARE(m_panel->view().promptedContents()[1], drawing);
+    QCOMPARE(m_panel->view().promptedContents()[1], Drawing);
 }
 
 void DownloadTest::closedPaneLeavesNoFile_data()
@@ -434,10 +435,11 @@ void DownloadTest::closedPaneLeavesNoFile()
 {
     QFETCH(bool, requesting);
     if (requesting)
-        m_panel->service().setReply(downloadOperation,
-                                    ScriptedReply::result(downloadOperation, addressOf(drawingPath)).held());
+        m_panel->service().setReply(
+            DownloadOperationName,
+            ScriptedReply::result(DownloadOperationName, addressOf(DrawingPath)).held());
     else
-        m_panel->service().setReply(drawingPath, pictureReply(drawing).heldAfter(5));
+        m_panel->service().setReply(DrawingPath, pictureReply(Drawing).heldAfter(5));
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     QCOMPARE(m_panel->files().size(), requesting ? 0 : 1);
@@ -462,7 +464,7 @@ void DownloadTest::closingUnderThePrompt()
 {
     QFETCH(bool, another);
     QFETCH(bool, pane);
-    int managers = -1; // of the page, with which they would go while the toolkit still works on the reply
+    int managers = -1; // of the page, with which they would go while Qt still works on the reply
     m_panel->view().answerPrompts([&](const BlockPrompt&) {
         managers = m_panel->shown<QWidget>("PreviewUI")->findChildren<QNetworkAccessManager*>().size();
         if (another)

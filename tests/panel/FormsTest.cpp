@@ -61,8 +61,8 @@ QStringList cellsOf(const QGridLayout* grid)
     return cells;
 }
 
-const QString html = "<html><head/><body><p><span style=\"%1\">%2</span></p></body></html>";
-const QString anchor = "<a href=\"https://catalog.test:8443/%1\\\">%2</a>";
+const QString Html = "<html><head/><body><p><span style=\"%1\">%2</span></p></body></html>";
+const QString Anchor = "<a href=\"https://catalog.test:8443/%1\\\">%2</a>";
 
 } // namespace
 
@@ -263,21 +263,21 @@ void FormsTest::translatedTexts()
                        {"namelabel", "text", "TableItem|Name : "},
                        {"desclabel", "text", "TableItem|Description :"},
                        {"catlabel", "text", "TableItem|Category :"}});
-    const QString forgotten = anchor.arg("Login.aspx?ForgotPassword=true", "Forgot Password ?");
-    const QString signUp = anchor.arg("Register.aspx/", "SIGN UP");
+    const QString forgotten = Anchor.arg("Login.aspx?ForgotPassword=true", "Forgot Password ?");
+    const QString signUp = Anchor.arg("Register.aspx/", "SIGN UP");
     compareTexts(login,
                  {{"", "windowTitle", "LogInPage|LogInPage"},
                   {"TitleLabel", "text",
-                   "LogInPage|" + html.arg(" font-size:12pt; font-weight:600; ;", "3D PARTHARBOR")},
-                  {"emailLabel", "text", "LogInPage|" + html.arg(" font-size:9pt;", "Email Address : ")},
-                  {"passLabel", "text", "LogInPage|" + html.arg(" font-size:9pt;", "Password :")},
+                   "LogInPage|" + Html.arg(" font-size:12pt; font-weight:600; ;", "3D PARTHARBOR")},
+                  {"emailLabel", "text", "LogInPage|" + Html.arg(" font-size:9pt;", "Email Address : ")},
+                  {"passLabel", "text", "LogInPage|" + Html.arg(" font-size:9pt;", "Password :")},
                   {"LogIn_pushButton", "text", "LogInPage|Log In"},
                   {"checkBox", "text", "LogInPage|Remember Me"},
                   {"checkBox", "styleSheet",
                    "QCheckBox::indicator::checked {image: url(:/3DPH/Resource/CheckBox_checked.PNG);}"},
                   {"ForgotLabel", "text",
-                   "LogInPage|" + html.arg(" font-size:9pt; color:#53c2fc;", forgotten) + "\n\n\n"},
-                  {"signUPLabel", "text", "LogInPage|" + html.arg(" color:#53c2fc;", signUp) + "\n\n"}});
+                   "LogInPage|" + Html.arg(" font-size:9pt; color:#53c2fc;", forgotten) + "\n\n\n"},
+                  {"signUPLabel", "text", "LogInPage|" + Html.arg(" color:#53c2fc;", signUp) + "\n\n"}});
     compareTexts(detail, {{"", "windowTitle", "PreviewUI|PreviewUI"}, {"pushButton", "toolTip", "Back"}});
     QStringList texts;
     for (const auto* button : detail->findChildren<QtCategoryButton*>())

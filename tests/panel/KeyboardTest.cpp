@@ -52,7 +52,7 @@ private:
 
 void KeyboardTest::openPage(const QString& page)
 {
-    m_panel->service().setReply(test::searchOperation, test::searchReply(test::hits(2)));
+    m_panel->service().setReply(test::SearchOperationName, test::searchReply(test::hits(2)));
     if (page == "login") {
         auto* login = new LogInPage(&m_panel->host(), &m_panel->window());
         m_panel->window().setCurrentIndex(m_panel->window().addTab(login, "Log In"));
@@ -136,7 +136,7 @@ void KeyboardTest::wholeWayByKeys()
     QTRY_VERIFY(m_panel->row(0) != nullptr);
     tabTo("next_pushButton");
     press(Qt::Key_Space);
-    QTRY_COMPARE(m_panel->sent(test::searchOperation, "pageNumber"), (QStringList{"1", "2"}));
+    QTRY_COMPARE(m_panel->sent(test::SearchOperationName, "pageNumber"), (QStringList{"1", "2"}));
     tabTo("iconpushButton");
     press(Qt::Key_Space);
     QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
@@ -156,7 +156,7 @@ void KeyboardTest::iconsHaveNames()
     const auto unnamed = [this] {
         QStringList controls;
         for (const auto* button : m_panel->container()->findChildren<QAbstractButton*>()) {
-            // Parts of the toolkit's own controls have no need of one.
+            // Parts of Qt's own controls have no need of one.
             const bool ours = !button->objectName().startsWith("qt_") &&
                               QString(button->metaObject()->className()) != "QTableCornerButton";
             if (ours && button->text().isEmpty() &&

@@ -16,7 +16,7 @@ using test::ScriptedReply;
 namespace
 {
 
-const QString loginOperation = "UserLogin";
+const QString LoginOperation = "UserLogin";
 
 /// Takes the place of the system's browser.
 class Browser : public QObject
@@ -66,7 +66,7 @@ void LogInPageTest::init()
     m_panel = std::make_unique<PanelFixture>();
     m_page = new LogInPage(&m_panel->host(), &m_panel->window());
     m_panel->window().setCurrentIndex(m_panel->window().addTab(m_page, "Log In"));
-    m_panel->service().setReply(loginOperation, ScriptedReply::result(loginOperation, "token"));
+    m_panel->service().setReply(LoginOperation, ScriptedReply::result(LoginOperation, "token"));
 }
 
 void LogInPageTest::logsIn_data()
@@ -89,15 +89,15 @@ void LogInPageTest::logsIn()
     QFETCH(QString, token);
     QFETCH(QString, text);
     UserToken = "former";
-    m_panel->service().setReply(loginOperation, ScriptedReply::result(loginOperation, token));
+    m_panel->service().setReply(LoginOperation, ScriptedReply::result(LoginOperation, token));
     QTest::keyClicks(email(), user);
     QTest::keyClicks(password(), word);
     logIn();
     QTRY_COMPARE(m_panel->boxTexts(), QStringList(text));
     QCOMPARE(m_panel->answerer().boxes()[0].title, QString("Message"));
     QCOMPARE(UserToken, token);
-    QCOMPARE(m_panel->sent(loginOperation, "userId"), QStringList(user));
-    QCOMPARE(m_panel->sent(loginOperation, "password"), QStringList(word));
+    QCOMPARE(m_panel->sent(LoginOperation, "userId"), QStringList(user));
+    QCOMPARE(m_panel->sent(LoginOperation, "password"), QStringList(word));
 
     m_panel->closePaneWithNextBox();
     logIn(); // and again

@@ -10,12 +10,12 @@
 #include <QtTest>
 
 using test::PanelFixture;
-using test::searchOperation;
+using test::SearchOperationName;
 
 namespace
 {
 
-const QString noKeyText = "Server was unable to process request. Invalid key string.";
+const QString NoKeyText = "Server was unable to process request. Invalid key string.";
 
 } // namespace
 
@@ -67,15 +67,15 @@ void NavigationTest::emptyTermIsRefused()
     m_panel->click("SearchButton");
     QCOMPARE(m_panel->boxTexts(), QStringList({"Please enter Search string", "Please enter Search string"}));
     QCOMPARE(m_panel->shownPages(), QStringList("PV3DPartHarbor_2D"));
-    QVERIFY(m_panel->service().requests(searchOperation).isEmpty());
+    QVERIFY(m_panel->service().requests(SearchOperationName).isEmpty());
 }
 
 void NavigationTest::blanksAreSearchedFor()
 {
     m_panel->searchFor("  ");
     QCOMPARE(SearchTerm, QString("  "));
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 1);
-    QVERIFY(m_panel->service().requests(searchOperation)[0].body.contains("<searchTerm>  </searchTerm>"));
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 1);
+    QVERIFY(m_panel->service().requests(SearchOperationName)[0].body.contains("<searchTerm>  </searchTerm>"));
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
 
@@ -108,7 +108,7 @@ void NavigationTest::roundTripKeepsItsPages()
         clickBack();
         QCOMPARE(m_panel->shownPages(), QStringList("PartHarbor_2D"));
         QTRY_VERIFY(m_panel->row(0) != nullptr); // the search is repeated
-        QCOMPARE(m_panel->sent(searchOperation, "searchTerm").count("bolt"), round);
+        QCOMPARE(m_panel->sent(SearchOperationName, "searchTerm").count("bolt"), round);
         remember();
         m_panel->openPart(round);
         QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
@@ -160,8 +160,8 @@ void NavigationTest::pageNumbers()
     m_panel->showResults();
     for (const QString& button : clicks)
         m_panel->click(button);
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), asked.size());
-    QStringList numbers = m_panel->sent(searchOperation, "pageNumber");
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), asked.size());
+    QStringList numbers = m_panel->sent(SearchOperationName, "pageNumber");
     numbers.sort(); // each request has a connection of its own
     asked.sort();
     QCOMPARE(numbers, asked);
@@ -172,12 +172,12 @@ void NavigationTest::dotsCannotBeClicked()
 {
     m_panel->showResults();
     m_panel->click("prev_pushButton"); // makes the third button dots too
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
     m_panel->click("pushButton6");
     m_panel->click("pushButton3");
     m_panel->click("pushButton1");
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 3);
-    QCOMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "0", "1"}));
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 3);
+    QCOMPARE(m_panel->sent(SearchOperationName, "pageNumber"), (QStringList{"1", "0", "1"}));
     QCOMPARE(LastPageButton, m_panel->shown<QPushButton>("pushButton1"));
 }
 
@@ -189,20 +189,20 @@ void NavigationTest::pressingElsewhereDoesNotCount()
     QTest::mousePress(previous, Qt::LeftButton);
     QTest::mouseRelease(previous, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
     m_panel->click("pushButton7");
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
     QTest::keyClick(previous, Qt::Key_Space);
-    QTRY_COMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "200", "199"}));
+    QTRY_COMPARE(m_panel->sent(SearchOperationName, "pageNumber"), (QStringList{"1", "200", "199"}));
 }
 
 void NavigationTest::pageIsKeptAcrossSearches()
 {
     m_panel->showResults();
     m_panel->click("pushButton4");
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
     clickBack();
     m_panel->searchFor("nut");
-    QTRY_COMPARE(m_panel->sent(searchOperation, "pageNumber"), (QStringList{"1", "4", "4"}));
-    QCOMPARE(m_panel->sent(searchOperation, "searchTerm").last(), QString("nut"));
+    QTRY_COMPARE(m_panel->sent(SearchOperationName, "pageNumber"), (QStringList{"1", "4", "4"}));
+    QCOMPARE(m_panel->sent(SearchOperationName, "searchTerm").last(), QString("nut"));
 }
 
 void NavigationTest::searchNeedsAKey()
@@ -211,11 +211,11 @@ void NavigationTest::searchNeedsAKey()
     QTRY_COMPARE(m_panel->service().requests("GenerateApiKeyByDescription").size(), 1);
     ApiKey.clear();
     m_panel->searchFor("bolt");
-    QCOMPARE(m_panel->boxTexts(), QStringList(noKeyText));
+    QCOMPARE(m_panel->boxTexts(), QStringList(NoKeyText));
     QCOMPARE(m_panel->shownPages(), QStringList("PartHarbor_2D"));
     m_panel->click("pushButton2");
-    QCOMPARE(m_panel->boxTexts(), QStringList({noKeyText, noKeyText}));
-    QVERIFY(m_panel->service().requests(searchOperation).isEmpty());
+    QCOMPARE(m_panel->boxTexts(), QStringList({NoKeyText, NoKeyText}));
+    QVERIFY(m_panel->service().requests(SearchOperationName).isEmpty());
     QCOMPARE(CurrentPageNumber, QString("2"));
 }
 
@@ -247,7 +247,7 @@ void NavigationTest::paneMayCloseUnderABox()
     QVERIFY(!m_panel->isPaneOpen());
 }
 
-/// The toolkit goes on with the line edit once the box that Return opened has been closed.
+/// Qt goes on with the line edit once the box that Return opened has been closed.
 void NavigationTest::searchLineOutlivesItsKey()
 {
     const QPointer<QLineEdit> line(m_panel->shown<QLineEdit>("SearchLine"));

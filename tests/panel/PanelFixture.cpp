@@ -18,10 +18,10 @@
 namespace test
 {
 
-const QString searchOperation = "SimpleSearchAcrossCatalogs";
-const QString configInfoOperation = "GetConfigInfo";
-const QString configParamsOperation = "GetConfigParams";
-const QString downloadOperation = "GetDownload2D";
+const QString SearchOperationName = "SimpleSearchAcrossCatalogs";
+const QString ConfigInfoOperationName = "GetConfigInfo";
+const QString ConfigParamsOperationName = "GetConfigParams";
+const QString DownloadOperationName = "GetDownload2D";
 
 QString addressOf(const QString& path)
 {
@@ -48,9 +48,9 @@ PanelFixture::PanelFixture()
     m_service.setReply("ServiceLogin", ScriptedReply::result("ServiceLogin", "session"));
     m_service.setReply("GenerateApiKeyByDescription",
                        ScriptedReply::result("GenerateApiKeyByDescription", "key"));
-    m_service.setReply(searchOperation, searchReply(hits(5)));
-    m_service.setReply(configInfoOperation, configurationsReply({"M8"}));
-    m_service.setReply(configParamsOperation, ScriptedReply::xml("<none/>"));
+    m_service.setReply(SearchOperationName, searchReply(hits(5)));
+    m_service.setReply(ConfigInfoOperationName, configurationsReply({"M8"}));
+    m_service.setReply(ConfigParamsOperationName, ScriptedReply::xml("<none/>"));
     m_service.setReply("/pictures/part.png", pictureReply(pngPicture({60, 90})));
 
     m_window->addTab(new QWidget, "Log In");
@@ -114,9 +114,9 @@ void PanelFixture::showResults()
 
 void PanelFixture::openPart(int index)
 {
-    const int before = m_service.requests(configParamsOperation).size();
+    const int before = m_service.requests(ConfigParamsOperationName).size();
     clickThumbnail(index);
-    QTRY_VERIFY(m_service.requests(configParamsOperation).size() > before);
+    QTRY_VERIFY(m_service.requests(ConfigParamsOperationName).size() > before);
 }
 
 void PanelFixture::openFirstPart()
@@ -127,7 +127,7 @@ void PanelFixture::openFirstPart()
 
 void PanelFixture::offerDrawing(const QString& path, const ScriptedReply& reply)
 {
-    m_service.setReply(downloadOperation, ScriptedReply::result(downloadOperation, addressOf(path)));
+    m_service.setReply(DownloadOperationName, ScriptedReply::result(DownloadOperationName, addressOf(path)));
     m_service.setReply(path, reply);
     UserToken = "token";
 }

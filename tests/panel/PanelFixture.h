@@ -108,10 +108,10 @@ private:
 };
 
 /// The operations' names, as the service knows them.
-extern const QString searchOperation;
-extern const QString configInfoOperation;
-extern const QString configParamsOperation;
-extern const QString downloadOperation;
+extern const QString SearchOperationName;
+extern const QString ConfigInfoOperationName;
+extern const QString ConfigParamsOperationName;
+extern const QString DownloadOperationName;
 
 /// @return the address of a path at the catalog's web site.
 QString addressOf(const QString& path);

@@ -14,12 +14,12 @@ using test::PanelFixture;
 using test::pictureReply;
 using test::pngPicture;
 using test::ScriptedReply;
-using test::searchOperation;
+using test::SearchOperationName;
 
 namespace
 {
 
-const QString picturePath = "/pictures/part.png";
+const QString PicturePath = "/pictures/part.png";
 constexpr QSize pictureSize(60, 90);
 
 QPixmap pictureOf(const QLabel* label)
@@ -109,13 +109,13 @@ private:
 void PicturesTest::init()
 {
     m_panel = std::make_unique<PanelFixture>();
-    m_panel->service().setReply(searchOperation, test::searchReply(test::hits(1)));
+    m_panel->service().setReply(SearchOperationName, test::searchReply(test::hits(1)));
 }
 
 /// Opens a part with that picture for its thumbnail and its preview, and waits for the latter's end.
 void PicturesTest::openPart(const ScriptedReply& picture)
 {
-    m_panel->service().setReply(picturePath, picture);
+    m_panel->service().setReply(PicturePath, picture);
     m_panel->openFirstPart();
     auto* preview = m_panel->shown<ClickableLabel>();
     QTRY_VERIFY(preview->hasScaledContents());
@@ -139,7 +139,7 @@ void PicturesTest::thumbnails()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QSize, size);
-    m_panel->service().setReply(picturePath, pictureReply(bytes));
+    m_panel->service().setReply(PicturePath, pictureReply(bytes));
     m_panel->showResults();
     QTRY_VERIFY(!thumbnail()->icon().isNull());
     QCOMPARE(thumbnail()->icon().availableSizes(), QList<QSize>({size}));
@@ -165,7 +165,7 @@ void PicturesTest::previewFillsItsLabel()
     m_panel->window().resize(400, 1100);
     m_panel->showResults();
     QTRY_VERIFY(!thumbnail()->icon().isNull()); // or it would change the layout later
-    m_panel->service().setReply(picturePath, pictureReply(pngPicture(size)).held());
+    m_panel->service().setReply(PicturePath, pictureReply(pngPicture(size)).held());
     m_panel->openPart(0);
     auto* label = m_panel->shown<ClickableLabel>();
     const QWidget* const frame = label->parentWidget();
@@ -186,7 +186,7 @@ void PicturesTest::previewFillsItsLabel()
 
 void PicturesTest::previewOfAHiddenPage()
 {
-    m_panel->service().setReply(picturePath, pictureReply(pngPicture({300, 300})).held());
+    m_panel->service().setReply(PicturePath, pictureReply(pngPicture({300, 300})).held());
     m_panel->showResults();
     QTest::mouseClick(thumbnail(), Qt::LeftButton);
     auto* label = m_panel->shown<ClickableLabel>();

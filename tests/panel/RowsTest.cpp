@@ -11,11 +11,11 @@
 #include <QTextEdit>
 #include <QtTest>
 
-using test::configInfoOperation;
+using test::ConfigInfoOperationName;
 using test::hits;
 using test::PanelFixture;
 using test::ScriptedReply;
-using test::searchOperation;
+using test::SearchOperationName;
 using test::searchReply;
 
 namespace
@@ -68,15 +68,15 @@ private:
 void RowsTest::turnPage()
 {
     const auto former = pointersTo(rows());
-    const int asked = m_panel->service().requests(searchOperation).size();
+    const int asked = m_panel->service().requests(SearchOperationName).size();
     m_panel->click("pushButton2");
-    QTRY_VERIFY(m_panel->service().requests(searchOperation).size() > asked);
+    QTRY_VERIFY(m_panel->service().requests(SearchOperationName).size() > asked);
     QTRY_COMPARE(former.count(nullptr), former.size());
 }
 
 void RowsTest::rowShowsItsHit()
 {
-    m_panel->service().setReply(searchOperation,
+    m_panel->service().setReply(SearchOperationName,
                                 searchReply({{" Bolt", "With shank", "pictures/part.png?size=1", "Maker"},
                                              {"  Nut", "", "pictures/part.png", "Other maker"}}));
     m_panel->showResults();
@@ -100,7 +100,7 @@ void RowsTest::rowShowsItsHit()
 void RowsTest::textsAreShownAsTheyCome()
 {
     const QString markup = "<b>A</b> & <img src='file:///x'>";
-    m_panel->service().setReply(searchOperation,
+    m_panel->service().setReply(SearchOperationName,
                                 searchReply({{markup, markup, "pictures/part.png", markup}}));
     m_panel->openFirstPart();
     auto* row = m_panel->shown<TableItem>();
@@ -109,8 +109,8 @@ void RowsTest::textsAreShownAsTheyCome()
         QCOMPARE(row->findChild<QLabel*>(label)->text(), markup);
         QCOMPARE(row->findChild<QLabel*>(label)->textFormat(), Qt::PlainText);
     }
-    QCOMPARE(m_panel->sent(configInfoOperation, "supplierName"), QStringList(markup));
-    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList(markup));
+    QCOMPARE(m_panel->sent(ConfigInfoOperationName, "supplierName"), QStringList(markup));
+    QCOMPARE(m_panel->sent(ConfigInfoOperationName, "modelName"), QStringList(markup));
 }
 
 /// A label would take minutes for them.
@@ -118,14 +118,14 @@ void RowsTest::endlessTextsAreCut()
 {
     const QString endless(1'000'000, 'x');
     const QString most(10'000, 'x');
-    m_panel->service().setReply(searchOperation,
+    m_panel->service().setReply(SearchOperationName,
                                 searchReply({{endless, endless, "pictures/part.png", endless}}));
-    m_panel->service().setReply(configInfoOperation, test::configurationsReply({endless}));
+    m_panel->service().setReply(ConfigInfoOperationName, test::configurationsReply({endless}));
     m_panel->showResults();
     m_panel->clickThumbnail(0);
     auto* page = m_panel->shown<PreviewUI>();
-    QTRY_COMPARE(m_panel->sent(test::configParamsOperation, "configName"), QStringList(endless));
-    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList(most));
+    QTRY_COMPARE(m_panel->sent(test::ConfigParamsOperationName, "configName"), QStringList(endless));
+    QCOMPARE(m_panel->sent(ConfigInfoOperationName, "modelName"), QStringList(most));
     auto* row = page->findChild<TableItem*>();
     QVERIFY(row->findChild<QTextEdit*>()->toPlainText() == most);
     QVERIFY(row->findChild<QLabel*>("label")->text() == most);
@@ -133,7 +133,7 @@ void RowsTest::endlessTextsAreCut()
         QVERIFY(label->text().size() <= most.size()); // the configuration's too
 }
 
-/// During a drag a late reply may take the row away, under the toolkit's hands.
+/// During a drag a late reply may take the row away, under Qt's hands.
 void RowsTest::descriptionCannotBeDragged()
 {
     m_panel->showResults();
@@ -151,7 +151,7 @@ void RowsTest::descriptionCannotBeDragged()
 
 void RowsTest::furtherRowsAreNeverVisible()
 {
-    m_panel->service().setReply(searchOperation, searchReply(hits(7)));
+    m_panel->service().setReply(SearchOperationName, searchReply(hits(7)));
     m_panel->searchFor("bolt");
     m_panel->window().setCurrentIndex(0); // the rows are made while their tab is hidden
     QTRY_COMPARE(rows().size(), 7);
@@ -195,7 +195,7 @@ void RowsTest::rowsMade()
     QFETCH(ScriptedReply, reply);
     QFETCH(int, made);
     m_panel->showResults();
-    m_panel->service().enqueue(searchOperation, reply);
+    m_panel->service().enqueue(SearchOperationName, reply);
     turnPage();
     QTRY_COMPARE(rows().size(), made);
     const auto* table = m_panel->shown<QTableWidget>("tableWidget");
@@ -209,8 +209,8 @@ void RowsTest::rowsMade()
 
 void RowsTest::lastReplyToArriveWins()
 {
-    m_panel->service().enqueue(searchOperation, searchReply({{"Of page 1"}}).held());
-    m_panel->service().enqueue(searchOperation, searchReply({{"Of page 2"}}));
+    m_panel->service().enqueue(SearchOperationName, searchReply({{"Of page 1"}}).held());
+    m_panel->service().enqueue(SearchOperationName, searchReply({{"Of page 2"}}));
     m_panel->searchFor("bolt");
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     m_panel->click("pushButton2");
@@ -222,15 +222,16 @@ void RowsTest::lastReplyToArriveWins()
 
 void RowsTest::openedRowLeavesItsTable()
 {
-    m_panel->service().setReply(searchOperation, searchReply({{"Bolt", "", "pictures/part.png", "Maker"},
-                                                              {"Nut", "", "pictures/part.png", "Other"}}));
+    m_panel->service().setReply(
+        SearchOperationName,
+        searchReply({{"Bolt", "", "pictures/part.png", "Maker"}, {"Nut", "", "pictures/part.png", "Other"}}));
     m_panel->showResults();
     QPointer<QTableWidget> results = m_panel->shown<QTableWidget>("tableWidget");
     QPointer<QWidget> row = m_panel->row(1);
     m_panel->openPart(1);
     QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));
-    QCOMPARE(m_panel->sent(configInfoOperation, "supplierName"), QStringList("Other"));
-    QCOMPARE(m_panel->sent(configInfoOperation, "modelName"), QStringList("Nut"));
+    QCOMPARE(m_panel->sent(ConfigInfoOperationName, "supplierName"), QStringList("Other"));
+    QCOMPARE(m_panel->sent(ConfigInfoOperationName, "modelName"), QStringList("Nut"));
 
     auto* opened = m_panel->shown<TableItem>();
     QCOMPARE(opened, row.data());
@@ -239,13 +240,13 @@ void RowsTest::openedRowLeavesItsTable()
     auto* button = opened->findChild<QPushButton*>("iconpushButton");
     QVERIFY(!button->isEnabled());
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(m_panel->service().requests(configInfoOperation).size(), 1);
+    QCOMPARE(m_panel->service().requests(ConfigInfoOperationName).size(), 1);
 }
 
 void RowsTest::openedRowSurvivesALateReply()
 {
     m_panel->showResults();
-    m_panel->service().enqueue(searchOperation, searchReply(hits(3)).held());
+    m_panel->service().enqueue(SearchOperationName, searchReply(hits(3)).held());
     m_panel->click("pushButton2");
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     auto others = pointersTo(rows());
@@ -262,7 +263,7 @@ void RowsTest::openedRowSurvivesALateReply()
 
 void RowsTest::lateThumbnailFollowsItsRow()
 {
-    m_panel->service().setReply(searchOperation, searchReply(hits(1)));
+    m_panel->service().setReply(SearchOperationName, searchReply(hits(1)));
     const ScriptedReply picture = test::pictureReply(test::pngPicture({60, 90}));
     m_panel->service().enqueue("/pictures/part.png", picture.held());
     m_panel->openFirstPart();
@@ -277,9 +278,9 @@ void RowsTest::closedPaneEndsItsRequests()
     m_panel->service().setReply("/pictures/part.png", ScriptedReply::never());
     m_panel->openFirstPart();
     QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 6);
-    m_panel->service().setReply(searchOperation, ScriptedReply::never());
+    m_panel->service().setReply(SearchOperationName, ScriptedReply::never());
     m_panel->click("pushButton");
-    QTRY_COMPARE(m_panel->service().requests(searchOperation).size(), 2);
+    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
     m_panel->closePane();
     QTRY_VERIFY(m_panel->service().findChildren<test::ScriptedConnection*>().isEmpty());
 }

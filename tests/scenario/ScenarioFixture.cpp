@@ -21,7 +21,7 @@ namespace test
 namespace
 {
 
-constexpr int patience = 30000; // Milliseconds.
+constexpr int Patience = 30000; // Milliseconds.
 
 bool startsWith(const std::string& text, const std::string& beginning)
 {
@@ -89,7 +89,7 @@ void ScenarioFixture::stopCatalog()
     const auto hasStopped = [&] {
         return stopped.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
     };
-    QVERIFY(QTest::qWaitFor(hasStopped, patience));
+    QVERIFY(QTest::qWaitFor(hasStopped, Patience));
 }
 
 void ScenarioFixture::restartCatalog()
@@ -142,7 +142,7 @@ void ScenarioFixture::keepBack(const devcatalog::HttpRequest& request)
 
 void ScenarioFixture::waitFor(const std::function<bool()>& condition)
 {
-    QVERIFY(QTest::qWaitFor([&] { return condition() || isHeld(); }, patience));
+    QVERIFY(QTest::qWaitFor([&] { return condition() || isHeld(); }, Patience));
 }
 
 void ScenarioFixture::connect()

@@ -15,8 +15,8 @@ using devcatalog::Part;
 namespace
 {
 
-constexpr std::size_t pageSize = 5;
-constexpr int patience = 30000; // Milliseconds.
+constexpr std::size_t PageSize = 5;
+constexpr int Patience = 30000; // Milliseconds.
 
 QString text(const std::string& utf8)
 {
@@ -61,9 +61,9 @@ private:
 void ScenarioTest::compareRows(const QString& term, std::size_t page)
 {
     const std::vector<const Part*> found = m_scenario->parts().search(term.toStdString());
-    const std::size_t first = (page - 1) * pageSize;
+    const std::size_t first = (page - 1) * PageSize;
     const QVector<QWidget*> rows = m_scenario->rows();
-    QCOMPARE(std::size_t(rows.size()), std::min(pageSize, found.size() - first));
+    QCOMPARE(std::size_t(rows.size()), std::min(PageSize, found.size() - first));
     for (int row = 0; row < rows.size(); ++row) {
         const Part& part = *found.at(first + std::size_t(row));
         const QWidget& shown = *rows.at(row);
@@ -92,7 +92,7 @@ void ScenarioTest::whatTheCatalogHoldsArrives()
     compareRows(term, 2);
 
     constexpr int row = 1;
-    const Part& part = *m_scenario->parts().search(term.toStdString()).at(pageSize + row);
+    const Part& part = *m_scenario->parts().search(term.toStdString()).at(PageSize + row);
     const devcatalog::Configuration& configuration = part.configurations.back();
     m_scenario->openPart(row);
     QCOMPARE(m_scenario->configurationName()->text(), text(configuration.name));
@@ -123,7 +123,7 @@ void ScenarioTest::theCatalogMayStopAndComeBack()
 
     m_scenario->stopCatalog();
     m_scenario->turnToPage("2");
-    QTRY_VERIFY_WITH_TIMEOUT(!m_scenario->hasPictures(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_scenario->hasPictures(), Patience);
     QCOMPARE(m_scenario->rowNames(), firstPage); // made again from the last good reply
     m_scenario->goBack();
     m_scenario->waitForReplies(QString(), 2); // the new panel's, which should have brought it a key
@@ -163,7 +163,7 @@ void ScenarioTest::theLibraryMayGoWhileAReplyIsOnItsWay()
     for (const auto& step : steps)
         if (!m_scenario->isHeld())
             step();
-    QTRY_VERIFY_WITH_TIMEOUT(m_scenario->isHeld(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scenario->isHeld(), Patience);
 
     QVERIFY(m_scenario->library().disconnect());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -36,7 +36,7 @@ static_assert(CookieJar::AcceptAlways == 0 && CookieJar::AcceptNever == 1 &&
 static_assert(CookieJar::KeepUntilExpire == 0 && CookieJar::KeepUntilExit == 1 &&
               CookieJar::KeepUntilTimeLimit == 2);
 
-/// Shows what the toolkit's jar keeps for its heirs.
+/// Shows what Qt's jar keeps for its heirs.
 class OpenJar : public CookieJar
 {
 public:

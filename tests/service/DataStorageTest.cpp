@@ -10,7 +10,7 @@ using test::ScriptedReply;
 namespace
 {
 
-const QString keyOperation = "GenerateApiKeyByDescription";
+const QString KeyOperation = "GenerateApiKeyByDescription";
 
 } // namespace
 
@@ -38,7 +38,7 @@ void DataStorageTest::theLastKeyToArriveStays()
     test::ScriptedService& service = m_fixture->service();
     m_fixture->scriptSession("session", {});
     for (const QString key : {"first", "second", ""})
-        service.enqueue(keyOperation, ScriptedReply::result(keyOperation, key).held());
+        service.enqueue(KeyOperation, ScriptedReply::result(KeyOperation, key).held());
     DataStorage first;
     QTRY_COMPARE(service.heldCount(), 1);
     DataStorage second;
@@ -81,7 +81,7 @@ void DataStorageTest::loginsInARow()
 void DataStorageTest::debugOutput()
 {
     m_fixture->service().setReply("ServiceLogin", ScriptedReply::xml("<one/>"));
-    m_fixture->service().setReply(keyOperation, ScriptedReply::xml("<two/>").held());
+    m_fixture->service().setReply(KeyOperation, ScriptedReply::xml("<two/>").held());
     DataStorage session;
     QTRY_COMPARE(m_fixture->service().heldCount(), 1);
     m_fixture->service().releaseAll();

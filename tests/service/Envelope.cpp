@@ -9,7 +9,7 @@ namespace test
 namespace
 {
 
-const QString soapNamespace = "http://schemas.xmlsoap.org/soap/envelope/";
+const QString SoapNamespace = "http://schemas.xmlsoap.org/soap/envelope/";
 
 /// Goes on to the next tag. @return whether it is a start tag in the given namespace.
 bool atChild(QXmlStreamReader& xml, const QString& name, const QString& space)
@@ -38,11 +38,11 @@ Envelope Envelope::read(const QByteArray& bytes)
     xml.readNext();
     envelope.version = xml.documentVersion().toString();
     envelope.encoding = xml.documentEncoding().toString();
-    if (!atChild(xml, "Envelope", soapNamespace))
+    if (!atChild(xml, "Envelope", SoapNamespace))
         xml.raiseError("no envelope");
     for (const QXmlStreamNamespaceDeclaration& declaration : xml.namespaceDeclarations())
         envelope.prefixes.insert(declaration.prefix().toString(), declaration.namespaceUri().toString());
-    if (!atChild(xml, "Body", soapNamespace) || !xml.readNextStartElement())
+    if (!atChild(xml, "Body", SoapNamespace) || !xml.readNextStartElement())
         xml.raiseError("no body with an operation");
     readOperation(xml, envelope);
     while (!xml.atEnd())

@@ -57,7 +57,7 @@ QString attributes(int count)
 
 } // namespace
 
-/// Replies that would be too much for the toolkit's parser, or for the host's memory once they are parsed.
+/// Replies that would be too much for Qt's parser, or for the host's memory once they are parsed.
 class HostileRepliesTest : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ using test::ScriptedReply;
 namespace
 {
 
-const QString contentNamespace = "http://" + test::ScriptedCatalog::host() + "/Content";
+const QString ContentNamespace = "http://" + test::ScriptedCatalog::host() + "/Content";
 
 struct ExpectedRequest {
     const char* operation;
@@ -24,7 +24,7 @@ struct ExpectedRequest {
 };
 
 /// Where the asker gives a value, "%1"; its key, "%2"; its token, "%3"; its drawing view, "%4".
-const QVector<ExpectedRequest> expectedRequests{
+const QVector<ExpectedRequest> ExpectedRequests{
     {"ServiceLogin", "/ContentWS/contentws.asmx",
      "catalog=partharbor,serviceuser=PlotvaneSU,password=TulipWindowCanvas,enduser=Plotvane,debug=false"},
     {"GenerateApiKeyByDescription", "/ContentWS/adminws.asmx",
@@ -136,13 +136,13 @@ void SoapWireTest::requests()
     detail.GetDownloadURL();
     QTRY_COMPARE(service.requests("GetDownload2D").size(), 1);
 
-    QCOMPARE(service.requests().size(), expectedRequests.size());
-    for (int i = 0; i < expectedRequests.size(); ++i) {
-        const ExpectedRequest& expected = expectedRequests.at(i);
+    QCOMPARE(service.requests().size(), ExpectedRequests.size());
+    for (int i = 0; i < ExpectedRequests.size(); ++i) {
+        const ExpectedRequest& expected = ExpectedRequests.at(i);
         const test::RecordedRequest& request = service.requests().at(i);
         QCOMPARE(headOf(request),
                  (QStringList{QString("POST ") + expected.path, "Content-Type: text/xml; charset=utf-8",
-                              "SOAPAction: " + contentNamespace + '/' + expected.operation,
+                              "SOAPAction: " + ContentNamespace + '/' + expected.operation,
                               QString("Content-Length: %1").arg(request.body.size())}));
 
         QStringList parameters = QString(expected.parameters).split(',');
@@ -156,7 +156,7 @@ void SoapWireTest::requests()
         QCOMPARE(envelope.encoding, QString("utf-8"));
         QCOMPARE(envelope.prefixes.size(), 3);
         QCOMPARE(envelope.operation, QString(expected.operation));
-        QCOMPARE(envelope.operationNamespace, contentNamespace);
+        QCOMPARE(envelope.operationNamespace, ContentNamespace);
         QCOMPARE(envelope.parameters, parameters);
         if (!value.contains('\n'))
             QCOMPARE(test::layoutFault(request.body, 1, "\n"), QString());
@@ -172,7 +172,7 @@ void SoapWireTest::templates_data()
     const auto add = [](const char* name, const char* operation, const char* parameters) {
         QTest::newRow(name) << QString(operation) << QString(parameters);
     };
-    add("TokenXMLFile.xml", "ServiceLogin", expectedRequests.at(0).parameters);
+    add("TokenXMLFile.xml", "ServiceLogin", ExpectedRequests.at(0).parameters);
     add("APIKeyXML.xml", "GenerateApiKeyByDescription", "sessionId=string,description=Plotvane session ID1");
     add("Login.xml", "UserLogin", "apiKey=string,userId=string,password=string");
     add("Searchcatalog.xml", "SimpleSearchAcrossCatalogs",
@@ -206,7 +206,7 @@ void SoapWireTest::templates()
                                      {"xsd", "http://www.w3.org/2001/XMLSchema"},
                                      {"soap", "http://schemas.xmlsoap.org/soap/envelope/"}}));
     QCOMPARE(envelope.operation, operation);
-    QCOMPARE(envelope.operationNamespace, contentNamespace);
+    QCOMPARE(envelope.operationNamespace, ContentNamespace);
     QCOMPARE(envelope.parameters, parameters.split(','));
 }
 

@@ -13,7 +13,7 @@
 namespace
 {
 
-const QString site = "https://" + test::ScriptedCatalog::host() + '/';
+const QString Site = "https://" + test::ScriptedCatalog::host() + '/';
 
 /// An item with a text for every child up to the supplier's, "<prefix>0" to "<prefix>16".
 QString item(const QString& prefix)
@@ -79,7 +79,7 @@ void XMLParserTest::hits()
     QCOMPARE(parser.GetSearchItemNames(), (QStringList{"", "a0", "b0", ""}));
     QCOMPARE(parser.GetSearchItemField1(), (QStringList{"", "a1", " b1", ""}));
     QCOMPARE(parser.GetSearchItemField6(), (QStringList{"", "a6", " b6", ""}));
-    QCOMPARE(parser.GetSearchItemImageUrls(), (QStringList{site, site + "a7", site + " b7", site}));
+    QCOMPARE(parser.GetSearchItemImageUrls(), (QStringList{Site, Site + "a7", Site + " b7", Site}));
     QCOMPARE(parser.GetSearchItemField16(), (QStringList{"", "a16", " b16", ""}));
     QCOMPARE(parser.GetConfigurationNames(), QStringList());
 
@@ -201,7 +201,7 @@ void XMLParserTest::files()
     QCOMPARE(answerer.boxes().size(), 0);
 }
 
-/// The same text twice, first in the toolkit's own box, which has no theme, then in the add-in's.
+/// The same text twice, first in Qt's own box, which has no theme, then in the add-in's.
 void XMLParserTest::missingFile()
 {
     g_darkMode = 1;

@@ -12,10 +12,10 @@ namespace test
 namespace
 {
 
-constexpr int maximumHeadSize = 16 * 1024;
+constexpr int MaximumHeadSize = 16 * 1024;
 
-/// Everything that arrives at @p from goes out at @p to. So does its end; a reset counts as one, since the
-/// toolkit reports both alike.
+/// Everything that arrives at @p from goes out at @p to. So does its end; a reset counts as one, since
+/// Qt reports both alike.
 void forward(QTcpSocket* from, QTcpSocket* to)
 {
     QObject::connect(from, &QTcpSocket::readyRead, to, [from, to] { to->write(from->readAll()); });
@@ -65,10 +65,10 @@ void ConnectProxy::readRequest()
 {
     auto* client = qobject_cast<QTcpSocket*>(sender());
     static const QByteArray headEnd = "\r\n\r\n";
-    const QByteArray seen = client->peek(maximumHeadSize);
+    const QByteArray seen = client->peek(MaximumHeadSize);
     const int end = seen.indexOf(headEnd);
     if (end < 0) {
-        if (seen.size() == maximumHeadSize)
+        if (seen.size() == MaximumHeadSize)
             resetConnection(*client);
         return;
     }
@@ -81,7 +81,7 @@ void ConnectProxy::readRequest()
     if (!match.hasMatch())
         refuse(client, "405 Method Not Allowed");
     else if (m_refusing)
-        refuse(client, "503 Service Unavailable"); // reported by the toolkit as a refused connection
+        refuse(client, "503 Service Unavailable"); // reported by Qt as a refused connection
     else
         openTunnel(client);
 }

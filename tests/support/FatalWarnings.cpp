@@ -19,7 +19,7 @@ namespace
 QMutex s_mutex;
 FatalWarnings* s_current = nullptr;
 
-/// What the offscreen plugin says about window systems it does not have, and what the toolkit says when the
+/// What the offscreen plugin says about window systems it does not have, and what Qt says when the
 /// threads of two network managers register the same type of its own at the same moment.
 bool isHarmless(const QString& text)
 {

@@ -12,7 +12,7 @@ namespace test
 /**
  * While it lives, the running test function fails on every warning and critical line that it did not
  * announce, and, at the end, on every announced line that never came. Lines of any thread count; known
- * harmless lines of the toolkit's are dropped (one list, in the .cpp). Everything else goes
+ * harmless lines of Qt's are dropped (one list, in the .cpp). Everything else goes
  * on to QtTest.
  *
  * Made in init() and destroyed in cleanup(), because QtTest puts its own handler in place before the first

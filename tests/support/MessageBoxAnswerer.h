@@ -14,7 +14,7 @@ struct SeenMessageBox {
     QString text;
     QString title;
     QMessageBox::Icon icon;
-    Qt::WindowFlags flags; ///< as the toolkit completes them for a window with a frame
+    Qt::WindowFlags flags; ///< as Qt completes them for a window with a frame
     QMessageBox::StandardButtons buttons;
     bool quitOnClose;
     QString styleSheet;

@@ -8,13 +8,13 @@ namespace test
 namespace
 {
 
-const QByteArray lineEnd = "\r\n";
+const QByteArray LineEnd = "\r\n";
 
 QByteArray headOf(int code, const QByteArray& contentType, int length)
 {
-    return "HTTP/1.1 " + QByteArray::number(code) + " Scripted" + lineEnd + //
-           "Content-Type: " + contentType + lineEnd +                       //
-           "Content-Length: " + QByteArray::number(length) + lineEnd + lineEnd;
+    return "HTTP/1.1 " + QByteArray::number(code) + " Scripted" + LineEnd + //
+           "Content-Type: " + contentType + LineEnd +                       //
+           "Content-Length: " + QByteArray::number(length) + LineEnd + LineEnd;
 }
 
 } // namespace
@@ -72,7 +72,7 @@ ScriptedReply ScriptedReply::never()
 ScriptedReply ScriptedReply::withHeader(const QByteArray& name, const QByteArray& value) const
 {
     ScriptedReply reply = *this;
-    reply.m_head.insert(m_head.size() - lineEnd.size(), name + ": " + value + lineEnd);
+    reply.m_head.insert(m_head.size() - LineEnd.size(), name + ": " + value + LineEnd);
     return reply;
 }
 

@@ -20,12 +20,12 @@ namespace
 
 using Attributes = std::vector<std::pair<std::string_view, std::string_view>>;
 
-const Attributes envelopeAttributes{
+const Attributes EnvelopeAttributes{
     {"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance"},
     {"xmlns:xsd", "http://www.w3.org/2001/XMLSchema"},
     {"xmlns:soap", "http://schemas.xmlsoap.org/soap/envelope/"},
 };
-const Attributes declarationAttributes{{"version", "1.0"}, {"encoding", "utf-8"}};
+const Attributes DeclarationAttributes{{"version", "1.0"}, {"encoding", "utf-8"}};
 
 /// Parses so that nothing of the document is dropped but the white space between elements.
 void parse(const std::string& envelope, pugi::xml_document& document)
@@ -105,9 +105,9 @@ pugi::xml_node findOperation(const pugi::xml_document& document, const std::stri
     const pugi::xml_node declaration = document.first_child();
     if (declaration.type() != pugi::node_declaration)
         throw SoapFault("The request does not begin with an XML declaration.");
-    requireAttributes(declaration, declarationAttributes);
+    requireAttributes(declaration, DeclarationAttributes);
     const pugi::xml_node envelope =
-        requireElement(declaration.next_sibling(), "soap:Envelope", envelopeAttributes);
+        requireElement(declaration.next_sibling(), "soap:Envelope", EnvelopeAttributes);
     requireEnd(envelope.next_sibling(), "the document");
     const pugi::xml_node body = requireElement(envelope.first_child(), "soap:Body", {});
     requireEnd(body.next_sibling(), "'soap:Envelope'");
@@ -184,7 +184,7 @@ void EnvelopeReader::checkValue(const RequestElement& element, const std::string
         require(isWholeNumber(value), element, "a whole number");
         break;
     case ValueRule::View:
-        require(std::find(drawingViews.begin(), drawingViews.end(), value) != drawingViews.end(), element,
+        require(std::find(DrawingViews.begin(), DrawingViews.end(), value) != DrawingViews.end(), element,
                 "the name of a drawing view");
         break;
     case ValueRule::SessionId:

@@ -14,7 +14,7 @@ namespace devcatalog
 namespace
 {
 
-const std::string contentType = "text/xml; charset=utf-8";
+const std::string ContentType = "text/xml; charset=utf-8";
 
 /// @return the header's value.
 /// @throws SoapFault unless it came just once.
@@ -30,8 +30,8 @@ const std::string& requireHeader(const HttpRequest& request, const std::string& 
 
 void requireHeaders(const HttpRequest& request)
 {
-    if (requireHeader(request, "content-type") != contentType)
-        throw SoapFault("The header 'content-type' must be " + quote(contentType) + ".");
+    if (requireHeader(request, "content-type") != ContentType)
+        throw SoapFault("The header 'content-type' must be " + quote(ContentType) + ".");
     requireHeader(request, "content-length");
     if (request.headers.count("content-encoding") != 0)
         throw SoapFault("The request must not be encoded.");
@@ -43,7 +43,7 @@ SoapReply fault(const std::string& code, const std::string& text)
 {
     ReplyEnvelope envelope;
     envelope.addFault(code, text);
-    return {{500, contentType, envelope.text()}, {}, text};
+    return {{500, ContentType, envelope.text()}, {}, text};
 }
 
 } // namespace
@@ -102,7 +102,7 @@ HttpReply SoapService::carryOut(const Operation& operation, const HttpRequest& r
     const RequestValues values = m_reader.read(request.body, operation);
     ReplyEnvelope envelope;
     m_operations.run(operation.name, values, envelope.addResult(operation.name, m_namespace));
-    return {200, contentType, envelope.text()};
+    return {200, ContentType, envelope.text()};
 }
 
 } // namespace devcatalog

@@ -3,7 +3,7 @@
 namespace devcatalog
 {
 
-const std::array<std::string_view, 12> drawingViews{
+const std::array<std::string_view, 12> DrawingViews{
     "eDrawingView_PREDEFINED", "eDrawingView_4VIEW",     "eDrawingView_MULTI",    "eDrawingView_FRONT",
     "eDrawingView_TOP",        "eDrawingView_RIGHT",     "eDrawingView_BACK",     "eDrawingView_BOTTOM",
     "eDrawingView_LEFT",       "eDrawingView_ISOMETRIC", "eDrawingView_DIMETRIC", "eDrawingView_TRIMETRIC",

@@ -40,6 +40,6 @@ struct Operation {
 std::vector<Operation> wireContract(const ServiceAccount& account);
 
 /// The wire names of the drawing views.
-extern const std::array<std::string_view, 12> drawingViews;
+extern const std::array<std::string_view, 12> DrawingViews;
 
 } // namespace devcatalog

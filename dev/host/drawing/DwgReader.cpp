@@ -16,10 +16,10 @@ namespace devhost
 namespace
 {
 
-constexpr qint64 maximumFileSize = qint64{64} * 1024 * 1024;
-constexpr int maximumPoints = 1000 * 1000;
-constexpr double circleStepDegrees = 2.0;
-constexpr double largestCoordinate = 1e12; // Far beyond any drawing; damaged files give such numbers.
+constexpr qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
+constexpr int MaximumPoints = 1000 * 1000;
+constexpr double CircleStepDegrees = 2.0;
+constexpr double LargestCoordinate = 1e12; // Far beyond any drawing; damaged files give such numbers.
 
 /// Keeps the library from writing to the console while it lives.
 class QuietGdal
@@ -44,8 +44,8 @@ QString findProblem(const QString& path)
         return QString("it cannot be opened");
     if (file.size() == 0)
         return QString("it is empty");
-    if (file.size() > maximumFileSize)
-        return QString("it is larger than %1 MB").arg(maximumFileSize / 1024 / 1024);
+    if (file.size() > MaximumFileSize)
+        return QString("it is larger than %1 MB").arg(MaximumFileSize / 1024 / 1024);
     const QByteArray release = file.read(6);
     if (!release.startsWith("AC10"))
         return QString("it is not a DWG file");
@@ -81,13 +81,13 @@ quint32 rgbOf(const QString& color)
 
 bool isUsable(double coordinate)
 {
-    return std::isfinite(coordinate) && std::abs(coordinate) < largestCoordinate;
+    return std::isfinite(coordinate) && std::abs(coordinate) < LargestCoordinate;
 }
 
 /// @return the points of a curve; none when it is not one, or has a coordinate that cannot be used.
 QVector<QPointF> pointsOf(const OGRGeometry& geometry, int most)
 {
-    const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry(circleStepDegrees));
+    const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry(CircleStepDegrees));
     const auto* line = dynamic_cast<const OGRLineString*>(linear.get());
     if (line == nullptr || line->getNumPoints() < 2 || line->getNumPoints() > most)
         return {};
@@ -121,7 +121,7 @@ void appendLayer(OGRLayer& layer, BlockGeometry& block, int& pointsLeft)
 BlockGeometry readLayers(GDALDataset& dataset)
 {
     BlockGeometry block;
-    int pointsLeft = maximumPoints;
+    int pointsLeft = MaximumPoints;
     for (int i = 0; i < dataset.GetLayerCount(); ++i)
         appendLayer(*dataset.GetLayer(i), block, pointsLeft);
     return block;

@@ -10,7 +10,7 @@ namespace devhost
 namespace
 {
 
-// The ids name menus, tabs and panels here; API identifiers are made of them.
+// The ids name Menus, Tabs and Panels here; API identifiers are made of them.
 
 struct Menu {
     const char* id;
@@ -34,13 +34,13 @@ struct Button {
     const char* command;
 };
 
-constexpr Menu menus[] = {
+constexpr Menu Menus[] = {
     {"File", "&File"},     {"Edit", "&Edit"},     {"View", "&View"}, {"Insert", "&Insert"},
     {"Import", "I&mport"}, {"Format", "F&ormat"}, {"Draw", "&Draw"}, {"Dimension", "Dime&nsion"},
     {"Modify", "Modif&y"}, {"Help", "&Help"},
 };
 
-constexpr MenuEntry menuEntries[] = {
+constexpr MenuEntry MenuEntries[] = {
     {"File", "&New", "NEW"},
     {"File", "&Open…", "OPEN"},
     {"File", "&Close", "CLOSE"},
@@ -91,15 +91,15 @@ constexpr MenuEntry menuEntries[] = {
     {"Help", "&Commands", "HELP"},
 };
 
-constexpr const char* tabs[] = {"Home", "Insert", "Annotate", "View", "Import"};
+constexpr const char* Tabs[] = {"Home", "Insert", "Annotate", "View", "Import"};
 
-constexpr Panel panels[] = {
+constexpr Panel Panels[] = {
     {"Home", "Draw"},     {"Home", "Modify"},      {"Home", "Annotation"}, {"Home", "Layers"},
     {"Insert", "Block"},  {"Insert", "Reference"}, {"Annotate", "Text"},   {"Annotate", "Dimensions"},
     {"View", "Navigate"}, {"View", "Display"},     {"Import", "Import"},   {"Import", "Underlay"},
 };
 
-constexpr Button buttons[] = {
+constexpr Button Buttons[] = {
     {"Draw", "Line", "LINE"},
     {"Draw", "Polyline", "PLINE"},
     {"Draw", "Circle", "CIRCLE"},
@@ -141,9 +141,9 @@ bool isSame(const char* id, const char* other)
 
 void addMenus(HostApplication& application)
 {
-    for (const Menu& menu : menus) {
+    for (const Menu& menu : Menus) {
         HostMenuItem& menuItem = application.addMenu(QString("ID_%1").arg(menu.id), menu.caption);
-        for (const MenuEntry& entry : menuEntries)
+        for (const MenuEntry& entry : MenuEntries)
             if (isSame(entry.menu, menu.id))
                 menuItem.addEntry(entry.caption, entry.command);
     }
@@ -151,7 +151,7 @@ void addMenus(HostApplication& application)
 
 void addButtons(HostRibbonRow& row, const char* panel)
 {
-    for (const Button& button : buttons)
+    for (const Button& button : Buttons)
         if (isSame(button.panel, panel))
             row.addButton(QString("ID_%1").arg(button.command), {button.caption, button.command, QString()});
 }
@@ -159,9 +159,9 @@ void addButtons(HostRibbonRow& row, const char* panel)
 void addRibbon(HostApplication& application)
 {
     HostWorkspace& workspace = application.addWorkspace("Drafting and Annotation");
-    for (const char* tab : tabs) {
+    for (const char* tab : Tabs) {
         HostRibbonTab& ribbonTab = workspace.addTab(QString("ID_%1Tab").arg(tab), tab);
-        for (const Panel& panel : panels) {
+        for (const Panel& panel : Panels) {
             if (!isSame(panel.tab, tab))
                 continue;
             HostRibbonPanel& ribbonPanel = ribbonTab.addPanel(QString("ID_%1Panel").arg(panel.id), panel.id,

@@ -20,7 +20,7 @@ namespace devhost
 namespace
 {
 
-const char command[] = "3DPH";
+const char Command[] = "3DPH";
 
 } // namespace
 
@@ -165,14 +165,14 @@ TourStep HostSteps::missCommand() const
     step.act = [this] { return typeCommand(); };
     step.look = [this]() -> Observation {
         const QString answer = m_window.commandLine().history().constLast();
-        return {answer.contains("Unknown command") && answer.contains(command), answer};
+        return {answer.contains("Unknown command") && answer.contains(Command), answer};
     };
     return step;
 }
 
 QString HostSteps::typeCommand() const
 {
-    const QString problem = userInput::typeInto(m_window.commandLine().input(), command);
+    const QString problem = userInput::typeInto(m_window.commandLine().input(), Command);
     return problem.isEmpty() ? userInput::press(Qt::Key_Return) : problem;
 }
 
@@ -182,7 +182,7 @@ Observation HostSteps::lookForPane(bool isToBeShown) const
     return {isShown == isToBeShown, isShown ? "the pane is shown" : "the pane is hidden"};
 }
 
-/// @return the identifier under which the host shows the add-in's command; empty when it has none.
+/// @return the identifier under which the host shows the add-in's Command; empty when it has none.
 QString HostSteps::userCommandId() const
 {
     const auto commands = m_window.host().userCommands().objects();

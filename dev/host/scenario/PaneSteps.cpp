@@ -18,12 +18,12 @@ namespace devhost
 namespace
 {
 
-const char loggedIn[] = "Login is successful.";
-const char notLoggedIn[] = "Login is not successful.";
+const char LoggedIn[] = "Login is successful.";
+const char NotLoggedIn[] = "Login is not successful.";
 const char searchLine[] = "SearchLine";
-const char resultsPage[] = "PartHarbor_2D";
-const char backButton[] = "pushButton"; // Of the results page and of the detail page.
-constexpr int browsingTab = 1;
+const char ResultsPage[] = "PartHarbor_2D";
+const char BackButton[] = "pushButton"; // Of the results page and of the detail page.
+constexpr int BrowsingTab = 1;
 
 QString quoted(const QStringList& texts)
 {
@@ -88,9 +88,9 @@ TourStep PaneSteps::logIn() const
     TourStep step;
     step.name = "Log in";
     step.act = [this] { return userInput::click(m_pages.shown<QPushButton>("LogIn_pushButton")); };
-    step.box = loggedIn;
+    step.box = LoggedIn;
     step.seconds = 10;
-    step.retryBox = notLoggedIn;
+    step.retryBox = NotLoggedIn;
     return step;
 }
 
@@ -98,7 +98,7 @@ TourStep PaneSteps::failToLogIn() const
 {
     TourStep step = logIn();
     step.name = "Log in with a wrong password";
-    step.box = notLoggedIn;
+    step.box = NotLoggedIn;
     step.retryBox.clear();
     return step;
 }
@@ -109,7 +109,7 @@ TourStep PaneSteps::openBrowsing() const
     step.name = "Open the second tab";
     step.act = [this] {
         const QTabWidget* tabs = m_pages.tabs();
-        return userInput::clickTab(tabs != nullptr ? tabs->tabBar() : nullptr, browsingTab);
+        return userInput::clickTab(tabs != nullptr ? tabs->tabBar() : nullptr, BrowsingTab);
     };
     step.look = [this]() -> Observation {
         const bool isShown = m_pages.shown<QLineEdit>(searchLine) != nullptr;
@@ -227,7 +227,7 @@ TourStep PaneSteps::goBackToResults() const
     step.name = "Go back to the results";
     step.act = [this] {
         QWidget* page = m_pages.detailPage();
-        return userInput::click(page != nullptr ? page->findChild<QPushButton*>(backButton) : nullptr);
+        return userInput::click(page != nullptr ? page->findChild<QPushButton*>(BackButton) : nullptr);
     };
     step.look = [this] { return lookForResults({}); };
     return step;
@@ -238,8 +238,8 @@ TourStep PaneSteps::goBackToSearch() const
     TourStep step;
     step.name = "Go back to the search";
     step.act = [this] {
-        QWidget* page = m_pages.shown<>(resultsPage);
-        return userInput::click(page != nullptr ? page->findChild<QPushButton*>(backButton) : nullptr);
+        QWidget* page = m_pages.shown<>(ResultsPage);
+        return userInput::click(page != nullptr ? page->findChild<QPushButton*>(BackButton) : nullptr);
     };
     step.look = [this]() -> Observation {
         const auto* line = m_pages.shown<QLineEdit>(searchLine);
@@ -252,7 +252,7 @@ TourStep PaneSteps::goBackToSearch() const
 
 QString PaneSteps::clickPageButton(const QString& page) const
 {
-    const QWidget* results = m_pages.shown<>(resultsPage);
+    const QWidget* results = m_pages.shown<>(ResultsPage);
     if (results == nullptr)
         return "no results are shown";
     for (QPushButton* button : results->findChildren<QPushButton*>())

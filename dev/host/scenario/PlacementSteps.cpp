@@ -16,11 +16,11 @@ namespace devhost
 namespace
 {
 
-constexpr double tolerance = 1e-6; // Drawing units.
+constexpr double Tolerance = 1e-6; // Drawing units.
 
 bool isSamePoint(const BlockPlacement& placement, const QPointF& point)
 {
-    return std::abs(placement.x - point.x()) < tolerance && std::abs(placement.y - point.y()) < tolerance;
+    return std::abs(placement.x - point.x()) < Tolerance && std::abs(placement.y - point.y()) < Tolerance;
 }
 
 } // namespace

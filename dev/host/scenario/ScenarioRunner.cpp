@@ -19,8 +19,8 @@ namespace devhost
 namespace
 {
 
-constexpr int tickMilliseconds = 20;
-constexpr int retryMilliseconds = 500;
+constexpr int TickMilliseconds = 20;
+constexpr int RetryMilliseconds = 500;
 
 void print(const QString& line)
 {
@@ -47,7 +47,7 @@ QAbstractButton* closingButton(const QMessageBox& box)
 ScenarioRunner::ScenarioRunner(MainWindow& window, Screenshots& screenshots)
     : m_window(window), m_screenshots(screenshots)
 {
-    m_timer.setInterval(tickMilliseconds);
+    m_timer.setInterval(TickMilliseconds);
     // Queued, because a timer is not delivered again before its receiver has returned.
     connect(&m_timer, &QTimer::timeout, this, &ScenarioRunner::tick, Qt::QueuedConnection);
 }
@@ -143,7 +143,7 @@ void ScenarioRunner::judge(const QMessageBox& box)
 
 void ScenarioRunner::act()
 {
-    if (m_retrying && m_sinceAttempt.elapsed() < retryMilliseconds)
+    if (m_retrying && m_sinceAttempt.elapsed() < RetryMilliseconds)
         return;
     m_sinceAttempt.start();
     m_acted = true; // Already, for a box that the action opens is met before it returns.

@@ -13,7 +13,7 @@ namespace devhost
 namespace
 {
 
-constexpr int titleHeight = 26;
+constexpr int TitleHeight = 26;
 
 /// @return the part of a file name: lower case, words joined by hyphens.
 QString fileNameOf(const QString& title)
@@ -46,7 +46,7 @@ bool hasTitle(const QWidget& window)
 QRect placeOf(const QWidget& window)
 {
     const QRect place = window.geometry();
-    return hasTitle(window) ? place.adjusted(0, -titleHeight, 0, 0) : place;
+    return hasTitle(window) ? place.adjusted(0, -TitleHeight, 0, 0) : place;
 }
 
 void drawWindow(QPainter& painter, QWidget& window)
@@ -56,7 +56,7 @@ void drawWindow(QPainter& painter, QWidget& window)
     if (hasTitle(window)) {
         painter.fillRect(place, palette.color(QPalette::Mid));
         painter.setPen(palette.color(QPalette::WindowText));
-        painter.drawText(place.adjusted(8, 0, -8, titleHeight - place.height()),
+        painter.drawText(place.adjusted(8, 0, -8, TitleHeight - place.height()),
                          Qt::AlignLeft | Qt::AlignVCenter, window.windowTitle());
     }
     painter.drawPixmap(window.geometry().topLeft(), window.grab());

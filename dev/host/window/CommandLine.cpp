@@ -13,15 +13,15 @@ namespace devhost
 namespace
 {
 
-const char commandPrompt[] = "Command:";
-constexpr int historyLines = 500;
+const char CommandPrompt[] = "Command:";
+constexpr int HistoryLines = 500;
 
 } // namespace
 
 CommandLine::CommandLine(QWidget* parent)
     : QWidget(parent),
       m_history(new QPlainTextEdit(this)),
-      m_prompt(new QLabel(commandPrompt, this)),
+      m_prompt(new QLabel(CommandPrompt, this)),
       m_input(new QLineEdit(this))
 {
     setObjectName("commandLine");
@@ -31,7 +31,7 @@ CommandLine::CommandLine(QWidget* parent)
     m_history->setAccessibleName("Command history");
     m_history->setReadOnly(true);
     m_history->setFocusPolicy(Qt::ClickFocus);
-    m_history->setMaximumBlockCount(historyLines);
+    m_history->setMaximumBlockCount(HistoryLines);
     m_history->setFrameShape(QFrame::NoFrame);
     m_history->setFont(font);
 
@@ -70,7 +70,7 @@ void CommandLine::setPrompt(const QString& prompt)
 
 void CommandLine::resetPrompt()
 {
-    setPrompt(commandPrompt);
+    setPrompt(CommandPrompt);
 }
 
 QString CommandLine::prompt() const

@@ -9,7 +9,7 @@ namespace devhost
 namespace
 {
 
-constexpr int comfortableWidth = 400; // Pixels.
+constexpr int ComfortableWidth = 400; // Pixels.
 
 } // namespace
 
@@ -24,7 +24,7 @@ DockPane::DockPane(const QString& title, QMainWindow& window) : m_dock(new QDock
     m_dock->setWidget(content);
     m_dock->hide();
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
-    window.resizeDocks({m_dock}, {comfortableWidth}, Qt::Horizontal);
+    window.resizeDocks({m_dock}, {ComfortableWidth}, Qt::Horizontal);
 }
 
 DockPane::~DockPane()

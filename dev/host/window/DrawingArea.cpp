@@ -16,7 +16,7 @@ namespace
 {
 
 const QRectF emptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Drawing units.
-constexpr double zoomStep = 1.25;
+constexpr double ZoomStep = 1.25;
 
 } // namespace
 
@@ -66,13 +66,13 @@ void DrawingArea::hideBlockAtCursor()
 
 void DrawingArea::zoomIn()
 {
-    m_view.zoomAt(QRectF(rect()).center(), zoomStep);
+    m_view.zoomAt(QRectF(rect()).center(), ZoomStep);
     update();
 }
 
 void DrawingArea::zoomOut()
 {
-    m_view.zoomAt(QRectF(rect()).center(), 1.0 / zoomStep);
+    m_view.zoomAt(QRectF(rect()).center(), 1.0 / ZoomStep);
     update();
 }
 
@@ -198,7 +198,7 @@ void DrawingArea::mouseDoubleClickEvent(QMouseEvent* event)
 void DrawingArea::wheelEvent(QWheelEvent* event)
 {
     constexpr double notch = 120.0; // Eighths of a degree that one step of a common wheel turns.
-    m_view.zoomAt(event->position(), std::pow(zoomStep, event->angleDelta().y() / notch));
+    m_view.zoomAt(event->position(), std::pow(ZoomStep, event->angleDelta().y() / notch));
     moveCursor(event->position());
     event->accept();
 }

@@ -10,8 +10,8 @@ namespace devhost
 namespace
 {
 
-constexpr double smallestPixels = 14.0; // Between grid lines.
-constexpr int linesPerMajor = 5;
+constexpr double SmallestPixels = 14.0; // Between grid lines.
+constexpr int LinesPerMajor = 5;
 
 void paintArrow(QPainter& painter, const QPointF& from, const QPointF& to, const QString& name)
 {
@@ -40,7 +40,7 @@ void paintHorizontal(QPainter& painter, const ViewTransform& view, double y)
 
 double gridSpacing(const ViewTransform& view)
 {
-    const double least = smallestPixels / view.scale();
+    const double least = SmallestPixels / view.scale();
     const double power = std::pow(10.0, std::floor(std::log10(least)));
     for (const double step : {1.0, 2.0, 5.0})
         if (step * power >= least)
@@ -56,7 +56,7 @@ void paintGrid(QPainter& painter, const ViewTransform& view, const DrawingColors
     for (const bool major : {false, true}) { // The stronger lines go over the others.
         painter.setPen(major ? colors.majorGrid : colors.minorGrid);
         const auto isWanted = [major](double index) {
-            return (std::fmod(index, linesPerMajor) == 0.0) == major;
+            return (std::fmod(index, LinesPerMajor) == 0.0) == major;
         };
         for (double x = std::ceil(visible.left() / spacing); x * spacing <= visible.right(); ++x)
             if (isWanted(x))

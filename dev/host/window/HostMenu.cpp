@@ -13,7 +13,7 @@ struct Language {
     const char* name;
 };
 
-constexpr Language languages[] = {
+constexpr Language Languages[] = {
     {2, "English"},
     {1, "German"},
     {9, "Chinese (Simplified)"},
@@ -62,7 +62,7 @@ void HostMenu::addLanguages()
 {
     QMenu* menu = addMenu("&Language");
     auto* group = new QActionGroup(menu);
-    for (const Language& language : languages) {
+    for (const Language& language : Languages) {
         QAction* action = menu->addAction(language.name);
         action->setObjectName(QString("language%1").arg(language.value));
         action->setCheckable(true);

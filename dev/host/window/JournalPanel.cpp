@@ -11,8 +11,8 @@ namespace devhost
 namespace
 {
 
-constexpr int shownLines = 2000;
-constexpr int readableWidth = 340; // Pixels.
+constexpr int ShownLines = 2000;
+constexpr int ReadableWidth = 340; // Pixels.
 
 } // namespace
 
@@ -22,8 +22,8 @@ JournalPanel::JournalPanel(const Journal& journal, QWidget* parent)
     setObjectName("journalPanel");
     m_text->setObjectName("journalText");
     m_text->setReadOnly(true);
-    m_text->setMaximumBlockCount(shownLines);
-    m_text->setMinimumWidth(readableWidth);
+    m_text->setMaximumBlockCount(ShownLines);
+    m_text->setMinimumWidth(ReadableWidth);
     m_text->setFrameShape(QFrame::NoFrame);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setPlainText(journal.lines().join('\n'));

@@ -33,8 +33,8 @@ namespace
 {
 
 constexpr QSize initialSize(1280, 800);
-constexpr int commandLineHeight = 110;
-const char addInStyleSheet[] = ":/3DPH/Resource/PV3DPartHarborDarkMode.qss"; // In the add-in's bundle.
+constexpr int CommandLineHeight = 110;
+const char AddInStyleSheet[] = ":/3DPH/Resource/PV3DPartHarborDarkMode.qss"; // In the add-in's bundle.
 
 } // namespace
 
@@ -111,7 +111,7 @@ void MainWindow::createLayout()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDockWidget(Qt::BottomDockWidgetArea, commandDock);
     splitDockWidget(commandDock, journal, Qt::Horizontal);
-    resizeDocks({commandDock}, {commandLineHeight}, Qt::Vertical);
+    resizeDocks({commandDock}, {CommandLineHeight}, Qt::Vertical);
     journal->hide();
     m_hostMenu->addAction(journal->toggleViewAction());
     m_hostMenu->addAction(commandDock->toggleViewAction());
@@ -283,7 +283,7 @@ void MainWindow::toggleGrid()
 
 void MainWindow::showGallery()
 {
-    auto* gallery = new WidgetGallery(addInStyleSheet, this);
+    auto* gallery = new WidgetGallery(AddInStyleSheet, this);
     gallery->setAttribute(Qt::WA_DeleteOnClose);
     gallery->show();
 }

@@ -18,10 +18,10 @@ namespace
 
 // Of the buttons of a panel the first ones are large, and so are those of add-ins; the others stand in
 // columns.
-constexpr int largeButtons = 4;
-constexpr int smallButtonsPerColumn = 3;
-constexpr int rows = smallButtonsPerColumn;
-constexpr int pageHeight = 104; // Pixels.
+constexpr int LargeButtons = 4;
+constexpr int SmallButtonsPerColumn = 3;
+constexpr int Rows = SmallButtonsPerColumn;
+constexpr int PageHeight = 104; // Pixels.
 
 void makeLarge(QToolButton& button)
 {
@@ -51,7 +51,7 @@ Ribbon::Ribbon(QWidget* parent) : QTabWidget(parent)
 
 QSize Ribbon::sizeHint() const
 {
-    return {600, tabBar()->sizeHint().height() + pageHeight};
+    return {600, tabBar()->sizeHint().height() + PageHeight};
 }
 
 QSize Ribbon::minimumSizeHint() const
@@ -109,17 +109,17 @@ QWidget* Ribbon::createPanel(const HostApplication& application, const HostRibbo
     int row = 0;
     for (const auto& button : buttons) {
         QToolButton* widget = createButton(application, *button);
-        const bool large = column < largeButtons || !button->properties().userCommandID.isEmpty();
+        const bool large = column < LargeButtons || !button->properties().userCommandID.isEmpty();
         if (large) {
             column += row > 0 ? 1 : 0;
             row = 0;
             makeLarge(*widget);
-            grid->addWidget(widget, 0, column++, rows, 1);
+            grid->addWidget(widget, 0, column++, Rows, 1);
             continue;
         }
         makeSmall(*widget);
         grid->addWidget(widget, row, column, Qt::AlignLeft);
-        row = (row + 1) % smallButtonsPerColumn;
+        row = (row + 1) % SmallButtonsPerColumn;
         column += row == 0 ? 1 : 0;
     }
 

@@ -8,9 +8,9 @@ namespace devhost
 namespace
 {
 
-constexpr double smallestScale = 1e-6; // Pixels per drawing unit.
-constexpr double largestScale = 1e5;
-constexpr double marginFactor = 0.9;
+constexpr double SmallestScale = 1e-6; // Pixels per drawing unit.
+constexpr double LargestScale = 1e5;
+constexpr double MarginFactor = 0.9;
 
 } // namespace
 
@@ -34,7 +34,7 @@ QRectF ViewTransform::visibleModel() const
 void ViewTransform::zoomAt(const QPointF& pixels, double factor)
 {
     const QPointF fixed = toModel(pixels);
-    m_scale = std::clamp(m_scale * factor, smallestScale, largestScale);
+    m_scale = std::clamp(m_scale * factor, SmallestScale, LargestScale);
     m_centre += fixed - toModel(pixels);
 }
 
@@ -48,7 +48,7 @@ void ViewTransform::showAll(const QRectF& model)
     m_centre = model.center();
     const double perWidth = m_size.width() / std::max(model.width(), 1e-9);
     const double perHeight = m_size.height() / std::max(model.height(), 1e-9);
-    m_scale = std::clamp(std::min(perWidth, perHeight) * marginFactor, smallestScale, largestScale);
+    m_scale = std::clamp(std::min(perWidth, perHeight) * MarginFactor, SmallestScale, LargestScale);
 }
 
 } // namespace devhost

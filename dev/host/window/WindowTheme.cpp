@@ -24,16 +24,16 @@ struct Colors {
     const char* placeholder;
 };
 
-constexpr Colors lightColors{"#f0f2f5", "#1f2429", "#ffffff", "#f5f7f9", "#f0f2f5", "#c3c9d0",
+constexpr Colors LightColors{"#f0f2f5", "#1f2429", "#ffffff", "#f5f7f9", "#f0f2f5", "#c3c9d0",
                              "#1f6fb2", "#ffffff", "#1f6fb2", "#9aa2ab", "#7b848e"};
-constexpr Colors darkColors{"#2d343d", "#e3e7eb", "#22282f", "#272e36", "#38414b", "#1e242b",
+constexpr Colors DarkColors{"#2d343d", "#e3e7eb", "#22282f", "#272e36", "#38414b", "#1e242b",
                             "#3d8fd1", "#ffffff", "#6db3ec", "#7d8791", "#8d97a2"};
 
 } // namespace
 
 QPalette windowPalette(bool dark)
 {
-    const Colors& colors = dark ? darkColors : lightColors;
+    const Colors& colors = dark ? DarkColors : LightColors;
     QPalette palette(QColor(colors.button), QColor(colors.window)); // Derives the shades.
     const QColor text(colors.text);
     palette.setColor(QPalette::WindowText, text);
