@@ -2,6 +2,7 @@
 
 #include "common/DarkTheme.h"
 #include "common/MessageBoxes.h"
+#include "panel/BackButton.h"
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PageButtonGroup.h"
 #include "panel/RowHeights.h"
@@ -36,7 +37,7 @@ PartHarbor_2D::PartHarbor_2D(pvApplication_c* application, QWidget* parent)
 {
     m_form->setupUi(this);
     m_rowHeights = new RowHeights(m_form->tableWidget);
-    setUpBackButton();
+    setUpBackButton(m_form->pushButton);
     setUpPageButtons();
     m_parser = std::make_unique<XMLParser>();
 
@@ -47,14 +48,6 @@ PartHarbor_2D::PartHarbor_2D(pvApplication_c* application, QWidget* parent)
 }
 
 PartHarbor_2D::~PartHarbor_2D() = default;
-
-void PartHarbor_2D::setUpBackButton()
-{
-    m_form->pushButton->setGeometry(0, 0, 20, 20);
-    m_form->pushButton->setIcon(QIcon(QLatin1String(":/3DPH/Resource/nav-back-20.svg")));
-    m_form->pushButton->setIconSize(m_form->pushButton->size());
-    m_form->pushButton->setToolTip(QLatin1String("Back"));
-}
 
 void PartHarbor_2D::setUpPageButtons()
 {

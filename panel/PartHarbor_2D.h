@@ -59,7 +59,6 @@ public slots:
     void OnBackButtonClick();
 
 private:
-    void setUpBackButton();
     void setUpPageButtons();
     void setUpStyleSheet();
     void sendSearch();

@@ -1,6 +1,7 @@
 #include "panel/PreviewUI.h"
 
 #include "common/MessageBoxes.h"
+#include "panel/BackButton.h"
 #include "panel/BlockInsertion.h"
 #include "panel/ClickableLabel.h"
 #include "panel/DownloadedFile.h"
@@ -78,7 +79,7 @@ PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
 {
     m_form->setupUi(this);
     g_drawingView = drawingViewTexts().constFirst();
-    setUpBackButton();
+    setUpBackButton(m_form->pushButton);
     m_sectionButtons = new QButtonGroup(this);
     prepareSectionTree(m_form->preview_page);
     buildConfigureSection();
@@ -94,14 +95,6 @@ PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
 PreviewUI::~PreviewUI()
 {
     dropDownload();
-}
-
-void PreviewUI::setUpBackButton()
-{
-    m_form->pushButton->setGeometry(0, 0, 20, 20);
-    m_form->pushButton->setIcon(QIcon(QLatin1String(":/3DPH/Resource/nav-back-20.svg")));
-    m_form->pushButton->setIconSize(m_form->pushButton->size());
-    m_form->pushButton->setToolTip(QLatin1String("Back"));
 }
 
 void PreviewUI::buildConfigureSection()

@@ -82,7 +82,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void setUpBackButton();
     void buildConfigureSection();
     void buildPreviewSection();
     void buildConfigTable();
