@@ -15,10 +15,10 @@
 #include "panel/ShownText.h"
 #include "panel/TableItem.h"
 #include "service/InputParameters.h"
-#include "service/ReplyRelease.h"
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
+#include "service/Transfer.h"
 #include "ui_PreviewUI.h"
 
 #include <QApplication>
@@ -320,7 +320,7 @@ void PreviewUI::httpDownloadFinished()
     m_downloadReply->readAll(); // what is still unread is dropped
     // The page may go under the prompt, the reply must not: some replies are touched after this signal.
     m_downloadReply->manager()->setParent(nullptr);
-    releaseReply(m_downloadReply);
+    releaseTransfer(m_downloadReply);
     m_downloadReply.clear();
     placeDrawing(this);
 }
@@ -339,7 +339,7 @@ void PreviewUI::promptForInsertion()
 void PreviewUI::dropDownload()
 {
     withdrawDrawing(this);
-    dropReply(m_downloadReply);
+    dropTransfer(m_downloadReply);
     m_downloadReply.clear();
     m_downloadFile.reset();
 }

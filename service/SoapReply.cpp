@@ -1,26 +1,14 @@
 #include "service/SoapReply.h"
 
 #include "common/MessageBoxes.h"
-#include "service/ReplyRelease.h"
+#include "service/Transfer.h"
 #include "service/XmlGuard.h"
 
 #include <QFile>
-#include <QNetworkReply>
-
-namespace
-{
-
-QByteArray body(QNetworkReply* reply)
-{
-    return reply->isReadable() ? reply->readAll() : QByteArray(); // an aborted one is closed
-}
-
-} // namespace
 
 SoapReply::SoapReply(QNetworkReply* reply)
-    : m_text(QString::fromUtf8(body(reply))), m_document(QLatin1String("output"))
+    : m_text(QString::fromUtf8(takeBody(reply))), m_document(QLatin1String("output"))
 {
-    releaseReply(reply);
 }
 
 bool SoapReply::open()

@@ -1,14 +1,12 @@
 #include "service/SoapRequest.h"
 
 #include "common/MessageBoxes.h"
-#include "service/ReplyLimit.h"
 #include "service/ServiceAddress.h"
+#include "service/Transfer.h"
 #include "service/XmlGuard.h"
 
 #include <QDomDocument>
 #include <QFile>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QUrl>
 
@@ -65,12 +63,5 @@ QNetworkReply* sendSoapRequest(const ServiceOperation& operation, std::initializ
     if (body->isEmpty())
         return nullptr; // the service could make nothing of it
 
-    // No parent: it must outlive the asker's own children while a reply is being delivered. Asker and manager
-    // still go together, by Qt's code alone, which is there after the add-in has been unloaded.
-    auto* manager = new QNetworkAccessManager;
-    QNetworkReply* reply = manager->post(request, *body);
-    QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, replySlot);
-    QObject::connect(asker, SIGNAL(destroyed()), manager, SLOT(deleteLater()));
-    new ReplyLimit(reply, MaximumXmlLength, asker);
-    return reply;
+    return postTransfer(request, *body, MaximumXmlLength, asker, replySlot);
 }

@@ -2,16 +2,12 @@
 #include "panel/PartHarbor_2D.h"
 #include "panel/PreviewUI.h"
 #include "service/DataStorage.h"
-#include "service/ReplyLimit.h"
 #include "service/SessionValues.h"
-#include "service/SoapRequest.h"
 #include "service/XmlGuard.h"
 #include "tests/service/Envelope.h"
 #include "tests/service/ServiceFixture.h"
 
 #include <QGridLayout>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QtTest>
 
 using test::ScriptedReply;
@@ -93,7 +89,6 @@ private slots:
     void noConnection_data();
     void noConnection();
     void endlessReply();
-    void managersGo();
 
 private:
     void start(Identity identity);
@@ -311,27 +306,6 @@ void SoapFailureTest::endlessReply()
     QTRY_COMPARE_WITH_TIMEOUT(m_fixture->boxes().size(), 1, 30000);
     QCOMPARE(m_fixture->service().heldCount(), 1);
     QCOMPARE(UserToken, QString());
-}
-
-/// A request's network manager goes when its reply has been read, and when its asker goes before that.
-void SoapFailureTest::managersGo()
-{
-    m_fixture->scriptSession("session", "key");
-    m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", "token").held());
-    auto session = std::make_unique<DataStorage>();
-    QTRY_COMPARE(ApiKey, QString("key"));
-    QTRY_COMPARE(session->findChildren<ReplyLimit*>().size(), 0); // they go with their managers
-
-    const QNetworkReply* reply =
-        sendSoapRequest(UserLoginOperation, {}, session.get(), SLOT(SetUserToken(QNetworkReply*)));
-    const QPointer<QNetworkAccessManager> manager(reply->manager());
-    QTRY_COMPARE(m_fixture->service().heldCount(), 1);
-    session.reset();
-    QTRY_VERIFY(manager.isNull());
-    m_fixture->service().releaseAll();
-    QCoreApplication::processEvents();
-    QCOMPARE(UserToken, QString("old token"));
-    QCOMPARE(m_fixture->boxes().size(), 0);
 }
 
 QTEST_MAIN(SoapFailureTest)
