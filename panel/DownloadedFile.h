@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QString>
 
-/// Suffix of the next downloaded file's name, process-wide. Starts at 0; PreviewUI counts it up with each
-/// download that it starts.
+/// Suffix of the next downloaded file's name, process-wide. Starts at 0; DrawingDownload counts it up with
+/// each download that it starts.
 extern int g_downloadCounter;
 
 /// A downloaded drawing in the host's current directory. It removes itself when its owner goes, whatever
@@ -20,9 +20,10 @@ public:
     DownloadedFile& operator=(const DownloadedFile&) = delete;
 
     bool isOpen() const { return m_file.isOpen(); }
-    void write(const QByteArray& bytes) { m_file.write(bytes); }
-    /// Puts everything written so far where other readers of the file see it.
-    void flush() { m_file.flush(); }
+    /// Appends bytes. @return whether the disk took all of them.
+    bool write(const QByteArray& bytes) { return m_file.write(bytes) == bytes.size(); }
+    /// Puts everything written where other readers of the file see it. @return whether all of it is there.
+    bool flush() { return m_file.flush(); }
     /// @return the file's absolute path.
     QString path() const { return m_file.fileName(); }
 

@@ -4,7 +4,8 @@
 #include <QStringList>
 
 /// The drawing view that the next download asks for, of whichever page: a view's display text after a detail
-/// page has been made, its wire value after a choice. Starts empty. Written by PreviewUI; read by PreviewUI.
+/// page has been made, its wire value after a choice. Starts empty. Written by PreviewUI; read by
+/// DrawingDownload.
 extern QString g_drawingView;
 
 /// @return the display texts in the order of the view list, each with its leading blank.

@@ -1,37 +1,44 @@
 #include "panel/PlacementQueue.h"
 
-#include "panel/PreviewUI.h"
+#include "panel/BlockInsertion.h"
+#include "panel/DownloadedFile.h"
 
-#include <QPointer>
+#include <QObject>
+
+#include <utility>
 
 namespace
 {
 
-bool promptOpen = false;
-QPointer<PreviewUI> waitingPage;
+struct Drawing {
+    std::unique_ptr<DownloadedFile> file;
+    pvApplication_c* application = nullptr;
+    QObject* asker = nullptr;
+};
+
+/// Whether the host's prompt is open for one of our drawings. Process-wide.
+bool PromptOpen = false;
+/// The drawing that is placed next; without a file where none waits. Process-wide.
+Drawing WaitingDrawing;
 
 } // namespace
 
-void placeDrawing(PreviewUI* page)
+void placeDrawing(std::unique_ptr<DownloadedFile> file, pvApplication_c* application, QObject* asker)
 {
-    if (promptOpen) {
-        if (!waitingPage.isNull() && waitingPage != page)
-            waitingPage->dropDownload();
-        waitingPage = page;
+    WaitingDrawing = {std::move(file), application, asker};
+    if (PromptOpen)
         return;
+    PromptOpen = true;
+    while (WaitingDrawing.file) {
+        // Held here: the asker may go, or begin another download, while the prompt is open.
+        const Drawing drawing = std::exchange(WaitingDrawing, {});
+        promptAndInsertBlock(drawing.application, drawing.file->path(), drawing.asker);
     }
-    promptOpen = true;
-    QPointer<PreviewUI> next(page);
-    while (!next.isNull()) {
-        next->promptForInsertion();
-        next = waitingPage;
-        waitingPage.clear();
-    }
-    promptOpen = false;
+    PromptOpen = false;
 }
 
-void withdrawDrawing(const PreviewUI* page)
+void withdrawDrawing(const QObject* asker)
 {
-    if (waitingPage == page)
-        waitingPage.clear();
+    if (WaitingDrawing.asker == asker)
+        WaitingDrawing = {};
 }

@@ -1,14 +1,22 @@
 #pragma once
 
-class PreviewUI;
+#include <memory>
+
+class DownloadedFile;
+class QObject;
+class pvApplication_c;
 
 // The host has one prompt for all pages. While it is open the event loop runs, so another download may
 // finish.
 
-/// Has a page prompt for its downloaded drawing. While a prompt is open the page waits for it to return; only
-/// the newest waits, and an older one that did loses its drawing.
-/// @param page whose drawing is complete. It may go at any time.
-void placeDrawing(PreviewUI* page);
+/// Has the host prompt for a drawing and insert it if the user accepts; the file is removed in any case.
+/// While a prompt is open the drawing waits for it to return; only the newest waits, and one that is
+/// superseded is removed.
+/// @param file of the complete drawing.
+/// @param application the host; may be null.
+/// @param asker whose drawing it is. Where it has gone when the prompt returns, nothing is inserted; one that
+///        goes while its drawing waits calls withdrawDrawing().
+void placeDrawing(std::unique_ptr<DownloadedFile> file, pvApplication_c* application, QObject* asker);
 
-/// A page's drawing is no longer to be placed.
-void withdrawDrawing(const PreviewUI* page);
+/// Removes a drawing that waits; one that the host prompts for already stays.
+void withdrawDrawing(const QObject* asker);

@@ -1,13 +1,10 @@
 #include "panel/PreviewUI.h"
 
-#include "common/MessageBoxes.h"
 #include "panel/BackButton.h"
-#include "panel/BlockInsertion.h"
 #include "panel/ClickableLabel.h"
-#include "panel/DownloadedFile.h"
+#include "panel/DrawingDownload.h"
 #include "panel/DrawingViews.h"
 #include "panel/PartHarbor_2D.h"
-#include "panel/PlacementQueue.h"
 #include "panel/QtCategoryButton.h"
 #include "panel/RowHeights.h"
 #include "panel/SectionFrame.h"
@@ -18,18 +15,13 @@
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
-#include "service/Transfer.h"
 #include "ui_PreviewUI.h"
 
-#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QEvent>
-#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QTableWidget>
 
 namespace
@@ -61,14 +53,6 @@ QLabel* createCaption(const char* text)
     return caption;
 }
 
-/// A drawing comes from a web site: an address of another kind, such as a file's, fetches nothing.
-QUrl webAddress(const QString& address)
-{
-    const QUrl url(address);
-    const bool web = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
-    return web ? url : QUrl();
-}
-
 } // namespace
 
 PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
@@ -78,6 +62,7 @@ PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
       m_application(application)
 {
     m_form->setupUi(this);
+    m_download = std::make_unique<DrawingDownload>(m_application, m_form->frame);
     g_drawingView = drawingViewTexts().constFirst();
     setUpBackButton(m_form->pushButton);
     m_sectionButtons = new QButtonGroup(this);
@@ -92,10 +77,7 @@ PreviewUI::PreviewUI(pvApplication_c* application, QWidget* parent)
             SLOT(switchcall(const QString&)));
 }
 
-PreviewUI::~PreviewUI()
-{
-    dropDownload();
-}
+PreviewUI::~PreviewUI() = default;
 
 void PreviewUI::buildConfigureSection()
 {
@@ -191,9 +173,17 @@ void PreviewUI::CategoryButtonPressed(int id)
     repaint();
 }
 
-void PreviewUI::OnBackbuttonclicked()
+void PreviewUI::leave()
 {
     hide();
+    m_preview_label->clear();
+    m_configTable->clear(); // the row goes
+    m_inputParameters = QDomNodeList();
+}
+
+void PreviewUI::OnBackbuttonclicked()
+{
+    leave();
     m_resultsPage = new PartHarbor_2D(m_application, m_parentWidget);
 
     const QPointer<PreviewUI> self(this);
@@ -253,95 +243,22 @@ void PreviewUI::switchcall(const QString& text)
 
 void PreviewUI::GetDownloadURL()
 {
-    if (UserToken.isEmpty()) {
-        showErrorBox(QObject::tr("Please Login to 3DPH to Download."));
-        return;
-    }
-    dropDownload();
-    const QPointer<PreviewUI> self(this);
-    QNetworkReply* reply = sendSoapRequest(GetDownload2DOperation,
-                                           {{"apiKey", ApiKey},
-                                            {"userToken", UserToken},
-                                            {"supplierName", m_supplierName},
-                                            {"modelName", m_modelName},
-                                            {"configName", m_configName},
-                                            {"version", QLatin1String("R2002")},
-                                            {"units", QLatin1String("cm")},
-                                            {"drawingView", drawingViewToRequest(g_drawingView)}},
-                                           this, SLOT(DragAndDrop(QNetworkReply*)));
-    if (!self.isNull())
-        m_downloadReply = reply;
+    m_download->request({m_supplierName, m_modelName, m_configName});
 }
 
 void PreviewUI::DragAndDrop(QNetworkReply* reply)
 {
-    SoapReply answer(reply);
-    m_downloadReply.clear();
-    m_replyText = answer.text();
-    if (!answer.open())
-        return;
-    const QString address = answer.result(GetDownload2DOperation.resultElement);
-    if (address.isEmpty())
-        showErrorBox(unsupportedViewMessage(g_drawingView));
-    else
-        startDownload(address);
-}
-
-void PreviewUI::startDownload(const QString& address)
-{
-    QWidget* const focused = QApplication::focusWidget(); // a disabled frame does not keep the focus
-    m_form->frame->setEnabled(false);
-    auto* manager = new QNetworkAccessManager(this);
-    const QString fileName = fileNameOf(address);
-    if (QFile::exists(fileName))
-        QFile::remove(fileName);
-    m_downloadFile = std::make_unique<DownloadedFile>(numberedFileName(fileName, g_downloadCounter));
-    if (m_downloadFile->isOpen()) {
-        m_downloadReply = manager->get(QNetworkRequest(webAddress(address)));
-        connect(m_downloadReply, SIGNAL(readyRead()), this, SLOT(httpReadyRead()));
-        connect(m_downloadReply, SIGNAL(finished()), this, SLOT(httpDownloadFinished()));
-    } else {
-        delete manager;
-    }
-    ++g_downloadCounter;
-    m_form->frame->setEnabled(true);
-    if (focused != nullptr && m_form->frame->isAncestorOf(focused))
-        focused->setFocus();
+    m_download->DragAndDrop(reply);
 }
 
 void PreviewUI::httpReadyRead()
 {
-    if (m_downloadFile)
-        m_downloadFile->write(m_downloadReply->readAll());
+    m_download->httpReadyRead();
 }
 
 void PreviewUI::httpDownloadFinished()
 {
-    m_downloadReply->readAll(); // what is still unread is dropped
-    // The page may go under the prompt, the reply must not: some replies are touched after this signal.
-    m_downloadReply->manager()->setParent(nullptr);
-    releaseTransfer(m_downloadReply);
-    m_downloadReply.clear();
-    placeDrawing(this);
-}
-
-void PreviewUI::promptForInsertion()
-{
-    // Held here: the page may go, or begin another download, while the host's prompt is open.
-    const std::unique_ptr<DownloadedFile> file = std::move(m_downloadFile);
-    if (!file)
-        return;
-    file->flush(); // the host reads it by its path
-    m_insertPath = file->path();
-    promptAndInsertBlock(m_application, m_insertPath, this);
-}
-
-void PreviewUI::dropDownload()
-{
-    withdrawDrawing(this);
-    dropTransfer(m_downloadReply);
-    m_downloadReply.clear();
-    m_downloadFile.reset();
+    m_download->httpDownloadFinished();
 }
 
 void PreviewUI::mouseReleaseEvent(QMouseEvent* /*event*/)

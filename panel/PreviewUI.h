@@ -2,18 +2,16 @@
 
 #include <QDomNodeList>
 #include <QList>
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
 
 class ClickableLabel;
-class DownloadedFile;
+class DrawingDownload;
 class PartHarbor_2D;
 class QButtonGroup;
 class QComboBox;
-class QFrame;
 class QLabel;
 class QNetworkReply;
 class QPixmap;
@@ -28,7 +26,7 @@ class PreviewUI;
 }
 
 /// The detail page of one model: its configuration, the choice of a drawing view and the preview, a click on
-/// which downloads the drawing and has the host place it. A left page stays hidden in the container until the
+/// which starts a DrawingDownload. A left page stays hidden in the container until the
 /// pane goes.
 class PreviewUI : public QWidget
 {
@@ -50,22 +48,15 @@ public:
     /// Shows the preview, scaled to its label. @param picture null gives a blank preview.
     void showPreview(const QPixmap& picture);
 
-    /// Has the host prompt for the downloaded drawing, insert it if the user accepts, and removes the file.
-    /// The host runs its event loop meanwhile, so the page may go.
-    void promptForInsertion();
-    /// Forgets the running request and removes the downloaded file.
-    void dropDownload();
-
 public slots:
     void CategoryButtonPressed(int id);
     /// Leaves for a new results page of the same search.
     void OnBackbuttonclicked();
     /// Stores the body; nothing is connected to it.
     void SetModelData(QNetworkReply* pReply);
-    /// A GetDownload2D reply: starts the download, or says that there is no drawing for the view.
+    // A drawing's way is DrawingDownload's; these four hand on to it.
     void DragAndDrop(QNetworkReply* reply);
-    /// Asks for the drawing of the chosen view; needs a logged-in user. Takes the place of an earlier
-    /// download.
+    /// Asks for the drawing of the chosen view; needs a logged-in user.
     void GetDownloadURL();
     void httpReadyRead();
     void httpDownloadFinished();
@@ -82,10 +73,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void leave();
     void buildConfigureSection();
     void buildPreviewSection();
     void buildConfigTable();
-    void startDownload(const QString& address);
 
     QLabel* m_view = nullptr;
     QLabel* m_configuration = nullptr;
@@ -93,18 +84,15 @@ private:
     QLabel* ConfigValueLabel = nullptr;
     ClickableLabel* m_preview_label = nullptr;
     QTableWidget* m_configTable = nullptr;
-    QString m_insertPath;
     QString m_configName;
     QDomNodeList m_inputParameters;
-    QPointer<QNetworkReply> m_downloadReply; // of the request for a drawing, then of the drawing itself
-    std::unique_ptr<DownloadedFile> m_downloadFile;
+    std::unique_ptr<DrawingDownload> m_download;
     QButtonGroup* m_sectionButtons = nullptr;
     QList<QTreeWidgetItem*> m_sectionItems;
     std::unique_ptr<Ui::PreviewUI> m_form;
     PartHarbor_2D* m_resultsPage = nullptr;
     QWidget* m_parentWidget;
     pvApplication_c* m_application;
-    QString m_replyText;
     QString m_modelData;
     QString m_supplierName;
     QString m_modelName;

@@ -28,7 +28,8 @@ struct Bound {
 QNetworkAccessManager* createManager(QObject* asker, const char* finishedSlot)
 {
     auto* manager = new QNetworkAccessManager;
-    QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, finishedSlot);
+    if (finishedSlot != nullptr)
+        QObject::connect(manager, SIGNAL(finished(QNetworkReply*)), asker, finishedSlot);
     QObject::connect(asker, SIGNAL(destroyed()), manager, SLOT(deleteLater()));
     return manager;
 }

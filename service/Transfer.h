@@ -28,7 +28,9 @@ QNetworkReply* postTransfer(const QNetworkRequest& request, const QByteArray& bo
                             QObject* asker, const char* finishedSlot);
 
 /// Fetches an address; otherwise as postTransfer(). An asker that wants to read the reply as it comes
-/// connects to its readyRead(), which is not heard again once the reply has been ended.
+/// connects to its readyRead(), which is not heard again once the reply has been ended. One that runs an
+/// event loop at the end, in which the reply may go, connects to the reply's finished() and gives no slot
+/// here: the manager looks at the reply once more after its own signal.
 QNetworkReply* getTransfer(const QUrl& url, qint64 maximumBytes, QObject* asker, const char* finishedSlot);
 
 /// Reads what has come since the last reading. Only what is read by this counts towards the bound.
