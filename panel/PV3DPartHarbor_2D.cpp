@@ -115,6 +115,13 @@ void PV3DPartHarbor_2D::startSearch()
         return;
     delete m_parentLayout->replaceWidget(this, m_resultsPage, Qt::FindChildrenRecursively);
     m_resultsPage->show();
+    leave();
+}
+
+void PV3DPartHarbor_2D::leave()
+{
+    m_sectionItems->clear();
+    m_form->PH_2DTabPage->clear(); // later, in the event loop: the search line is still handling its key
 }
 
 void PV3DPartHarbor_2D::SetAccessToken(QNetworkReply* /*reply*/)

@@ -60,6 +60,7 @@ private:
     void buildPanel();
     void buildSearchRow();
     void startSearch();
+    void leave();
 
     PartHarbor_2D* m_resultsPage = nullptr;
     pvApplication_c* m_application;

@@ -10,6 +10,7 @@
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
+#include "service/Transfer.h"
 #include "ui_PartHarbor_2D.h"
 
 #include <QAbstractButton>
@@ -102,6 +103,10 @@ void PartHarbor_2D::sendSearch()
 
 void PartHarbor_2D::ModelData(QNetworkReply* reply)
 {
+    if (isHidden()) { // left meanwhile
+        releaseTransfer(reply);
+        return;
+    }
     m_replyText = SoapReply(reply).text();
     m_parser->setContent(m_replyText);
     fillTable();
@@ -109,14 +114,20 @@ void PartHarbor_2D::ModelData(QNetworkReply* reply)
 
 void PartHarbor_2D::fillTable()
 {
-    // Rows beyond the table belong to the page alone.
-    for (TableItem* row : findChildren<TableItem*>(QString(), Qt::FindDirectChildrenOnly))
-        row->deleteLater();
-    m_form->tableWidget->clear();
+    removeRows();
     readResults();
     QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
         control = addRow(row)->followInTabOrder(control);
+}
+
+void PartHarbor_2D::removeRows()
+{
+    // Rows beyond the table belong to the page alone.
+    for (TableItem* row : findChildren<TableItem*>(QString(), Qt::FindDirectChildrenOnly))
+        row->deleteLater();
+    m_form->tableWidget->clear();
+    m_lastRow = nullptr;
 }
 
 void PartHarbor_2D::readResults()
@@ -202,9 +213,20 @@ void PartHarbor_2D::ReleaseTask(int id)
         m_releasedText = button->text();
 }
 
-void PartHarbor_2D::OnBackButtonClick()
+void PartHarbor_2D::leave()
 {
     hide();
+    removeRows();
+    m_parser = std::make_unique<XMLParser>();
+    m_replyText.clear();
+    for (QList<QString>* texts :
+         {&m_thumbnailUrls, &m_modelNames, &m_supplierNames, &m_descriptions, &m_categories})
+        texts->clear();
+}
+
+void PartHarbor_2D::OnBackButtonClick()
+{
+    leave();
     m_newPanel = new PV3DPartHarbor_2D(m_application, m_parentWidget);
     m_parentLayout->addWidget(m_newPanel);
     m_newPanel->show();

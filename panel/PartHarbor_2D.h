@@ -27,8 +27,8 @@ class PartHarbor_2D;
 /// PartHarbor_2D::OnPushButtonClicked, read by nothing.
 extern QPointer<QAbstractButton> LastPageButton;
 
-/// A page of search results: five rows, a bar of page buttons and a back button. Left pages stay hidden in
-/// the container until the pane goes.
+/// A page of search results: five rows, a bar of page buttons and a back button. Left pages stay hidden and
+/// empty in the container until the pane goes.
 class PartHarbor_2D : public QWidget
 {
     Q_OBJECT
@@ -50,6 +50,8 @@ public:
     QWidget* container() const { return m_parentWidget; }
     /// Lets a row go to another table: this one forgets it.
     void releaseRow(TableItem* row);
+    /// Hides the page for good. What only a shown page needs, its rows above all, is given back.
+    void leave();
 
 public slots:
     /// A search reply: shows its hits, whatever page they are of.
@@ -63,6 +65,7 @@ private:
     void setUpStyleSheet();
     void sendSearch();
     void fillTable();
+    void removeRows();
     void readResults();
     TableItem* addRow(int row);
     void relabel();

@@ -81,7 +81,7 @@ void TableItem::Preview()
     m_page->releaseRow(this);
     m_detailPage->showRow(this);
     m_form->iconpushButton->setEnabled(false);
-    m_page->hide();
+    m_page->leave();
     m_detailPage->show();
 }
 
