@@ -1,8 +1,8 @@
 #pragma once
 
+#include "dev/catalog/proxy/ConnectProxy.h"
 #include "dev/host/model/HostApplication.h"
 #include "tests/host/ScriptedHostView.h"
-#include "tests/support/ConnectProxy.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"
 #include "tests/support/ScriptedService.h"
@@ -38,7 +38,7 @@ public:
     PanelFixture& operator=(const PanelFixture&) = delete;
 
     ScriptedService& service() { return m_service; }
-    ConnectProxy& proxy() { return m_proxy; }
+    devcatalog::ConnectProxy& proxy() { return m_proxy; }
     FatalWarnings& warnings() { return m_warnings; }
     MessageBoxAnswerer& answerer() { return m_answerer; }
     ScriptedHostView& view() { return m_view; }
@@ -97,7 +97,7 @@ private:
     FatalWarnings m_warnings;
     TestCertificates m_certificates;
     ScriptedService m_service;
-    ConnectProxy m_proxy;
+    devcatalog::ConnectProxy m_proxy;
     MessageBoxAnswerer m_answerer;
     ScriptedHostView m_view;
     std::shared_ptr<devhost::HostApplication> m_host;

@@ -2,13 +2,7 @@
 
 #include "tests/support/ScriptedCatalog.h"
 
-#include <QComboBox>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTableWidget>
 #include <QtTest>
 
 #include <algorithm>
@@ -47,7 +41,7 @@ ScenarioFixture::ScenarioFixture()
 {
     QDir::setCurrent(m_currentFolder.path());
     m_server.start();
-    m_proxy = std::make_unique<ConnectProxy>(quint16(m_server.port()));
+    m_proxy = std::make_unique<devcatalog::ConnectProxy>(quint16(m_server.port()));
     m_proxy->use();
     QSslConfiguration trusting = m_tlsBefore;
     trusting.addCaCertificates(QString::fromStdString(m_server.caFile().string()));
@@ -162,118 +156,46 @@ void ScenarioFixture::waitForReplies(const QString& content, int count)
     });
 }
 
-void ScenarioFixture::openTab(int index)
-{
-    shown<QTabWidget>()->setCurrentIndex(index);
-}
-
 void ScenarioFixture::logIn()
 {
-    openTab(0);
-    shown<QLineEdit>("email_lineEdit")->setText("demo@partharbor.example");
-    shown<QLineEdit>("Pass_lineEdit_2")->setText("demo");
     const int boxesBefore = m_answerer.boxes().size();
-    QTest::mouseClick(shown<QPushButton>("LogIn_pushButton"), Qt::LeftButton);
+    m_user.logIn("demo@partharbor.example", "demo");
     waitFor([=] { return m_answerer.boxes().size() > boxesBefore; });
 }
 
 void ScenarioFixture::searchFor(const QString& term)
 {
-    openTab(1);
-    QTest::keyClicks(shown<QLineEdit>("SearchLine"), term);
-    QTest::keyClick(shown<QLineEdit>("SearchLine"), Qt::Key_Return);
+    m_user.openSearchTab();
+    m_user.searchFor(term);
 }
 
 void ScenarioFixture::turnToPage(const QString& page)
 {
-    for (QPushButton* button : shown("PartHarbor_2D")->findChildren<QPushButton*>()) {
-        if (button->text() == page) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL("no such page button");
+    QVERIFY2(m_user.turnToPage(page), "no such page button");
 }
 
 void ScenarioFixture::waitForResults(const QStringList& others)
 {
-    waitFor([=] { return rowNames() != others && hasPictures(); });
+    waitFor([=] { return m_user.rowNames() != others && m_user.hasPictures(); });
 }
 
 void ScenarioFixture::openPart(int row)
 {
-    QTest::mouseClick(rows().at(row)->findChild<QPushButton*>("iconpushButton"), Qt::LeftButton);
-    waitFor([this] {
-        const QLabel* configuration = configurationName();
-        const QLabel* picture = preview();
-        return configuration != nullptr && !configuration->text().isEmpty() && picture != nullptr &&
-               !picture->pixmap(Qt::ReturnByValue).isNull();
-    });
-}
-
-void ScenarioFixture::chooseView(const QString& view)
-{
-    shown<QComboBox>()->setCurrentText(view);
+    m_user.openPart(row);
+    waitFor([this] { return m_user.hasPart(); });
 }
 
 void ScenarioFixture::clickPreview()
 {
-    const std::size_t promptsBefore = m_view.prompts().size();
-    QTest::mouseClick(preview(), Qt::LeftButton);
-    waitFor([=] { return m_view.prompts().size() > promptsBefore && files().isEmpty(); });
+    const std::size_t promptsBefore = m_view.promptCount();
+    m_user.clickPreview();
+    waitFor([=] { return m_view.promptCount() > promptsBefore && files().isEmpty(); });
 }
 
 void ScenarioFixture::goBack()
 {
-    openTab(1);
-    QTest::mouseClick(shown<QPushButton>("pushButton"), Qt::LeftButton);
-}
-
-QVector<QWidget*> ScenarioFixture::rows() const
-{
-    QVector<QWidget*> all;
-    const auto* table = shown<QTableWidget>("tableWidget");
-    for (int row = 0; table != nullptr && row < table->rowCount(); ++row)
-        if (QWidget* widget = table->cellWidget(row, 0))
-            all.append(widget);
-    return all;
-}
-
-bool ScenarioFixture::hasPictures() const
-{
-    const QVector<QWidget*> all = rows();
-    return !all.isEmpty() && std::all_of(all.begin(), all.end(), [](const QWidget* row) {
-        return !row->findChild<QPushButton*>("iconpushButton")->icon().isNull();
-    });
-}
-
-QStringList ScenarioFixture::rowNames() const
-{
-    QStringList names;
-    for (const QWidget* row : rows())
-        names.append(row->findChild<QLabel*>("namevaluelabel")->text());
-    return names;
-}
-
-QLabel* ScenarioFixture::configurationName() const
-{
-    return detailLabel([](const QLabel& label) { return label.frameShape() == QFrame::Box; });
-}
-
-QLabel* ScenarioFixture::preview() const
-{
-    return detailLabel([](const QLabel& label) { return label.inherits("ClickableLabel"); });
-}
-
-QLabel* ScenarioFixture::detailLabel(bool (*isWanted)(const QLabel&)) const
-{
-    const QWidget* page = shown("PreviewUI");
-    if (page == nullptr)
-        return nullptr;
-    for (QLabel* label : page->findChildren<QLabel*>())
-        if (isWanted(*label))
-            return label;
-    return nullptr;
+    m_user.openSearchTab();
+    m_user.goBack();
 }
 
 } // namespace test

@@ -2,10 +2,11 @@
 
 #include "dev/catalog/CatalogServer.h"
 #include "dev/catalog/parts/PartCatalog.h"
+#include "dev/catalog/proxy/ConnectProxy.h"
+#include "dev/host/headless/PaneUser.h"
 #include "dev/host/model/AddInLibrary.h"
 #include "dev/host/model/HostApplication.h"
 #include "tests/host/ScriptedHostView.h"
-#include "tests/support/ConnectProxy.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"
 
@@ -17,8 +18,6 @@
 #include <functional>
 #include <memory>
 #include <mutex>
-
-class QLabel;
 
 namespace test
 {
@@ -47,6 +46,7 @@ public:
     devhost::AddInLibrary& library() { return m_library; }
     devhost::HostApplication& host() { return *m_host; }
     ScriptedHostView& view() { return m_view; }
+    const devhost::PaneUser& user() const { return m_user; }
     /// @return the texts of the message boxes so far; each was closed by its button.
     QStringList boxTexts() const;
     /// @return the names of the files in the current directory.
@@ -70,37 +70,14 @@ public:
     void waitForResults(const QStringList& others = {});
     /// Clicks a thumbnail, and waits for configuration and preview.
     void openPart(int row);
-    void chooseView(const QString& view);
     /// Waits until a drawing was offered and is gone again.
     void clickPreview();
     void goBack();
-
-    /// @return the pane's widget of that class and name that is on its page; null when there is none.
-    template <class Widget = QWidget>
-    Widget* shown(const QString& name = QString()) const
-    {
-        if (m_view.paneWidget() == nullptr)
-            return nullptr;
-        for (Widget* widget : m_view.paneWidget()->findChildren<Widget*>(name))
-            if (widget->isVisible())
-                return widget;
-        return nullptr;
-    }
-    /// @return the result rows that are shown, from top to bottom.
-    QVector<QWidget*> rows() const;
-    QStringList rowNames() const;
-    /// @return whether there are rows, and each has its picture.
-    bool hasPictures() const;
-    /// The labels of the shown detail page; null when none is shown.
-    QLabel* configurationName() const;
-    QLabel* preview() const;
 
 private:
     devcatalog::CatalogServerOptions options();
     void keepBack(const devcatalog::HttpRequest& request);
     void waitFor(const std::function<bool()>& condition);
-    void openTab(int index);
-    QLabel* detailLabel(bool (*isWanted)(const QLabel&)) const;
 
     FatalWarnings m_warnings;
     QTemporaryDir m_certificateFolder;
@@ -115,9 +92,10 @@ private:
 
     devcatalog::PartCatalog m_parts;
     devcatalog::CatalogServer m_server;
-    std::unique_ptr<ConnectProxy> m_proxy;
+    std::unique_ptr<devcatalog::ConnectProxy> m_proxy;
     MessageBoxAnswerer m_answerer;
     ScriptedHostView m_view;
+    devhost::PaneUser m_user{m_view};
     std::shared_ptr<devhost::HostApplication> m_host;
     devhost::AddInLibrary m_library;
 };

@@ -62,7 +62,7 @@ void ScenarioTest::compareRows(const QString& term, std::size_t page)
 {
     const std::vector<const Part*> found = m_scenario->parts().search(term.toStdString());
     const std::size_t first = (page - 1) * PageSize;
-    const QVector<QWidget*> rows = m_scenario->rows();
+    const QVector<QWidget*> rows = m_scenario->user().rows();
     QCOMPARE(std::size_t(rows.size()), std::min(PageSize, found.size() - first));
     for (int row = 0; row < rows.size(); ++row) {
         const Part& part = *found.at(first + std::size_t(row));
@@ -86,7 +86,7 @@ void ScenarioTest::whatTheCatalogHoldsArrives()
     m_scenario->searchFor(term);
     m_scenario->waitForResults();
     compareRows(term, 1);
-    const QStringList firstPage = m_scenario->rowNames();
+    const QStringList firstPage = m_scenario->user().rowNames();
     m_scenario->turnToPage("2");
     m_scenario->waitForResults(firstPage);
     compareRows(term, 2);
@@ -95,8 +95,8 @@ void ScenarioTest::whatTheCatalogHoldsArrives()
     const Part& part = *m_scenario->parts().search(term.toStdString()).at(PageSize + row);
     const devcatalog::Configuration& configuration = part.configurations.back();
     m_scenario->openPart(row);
-    QCOMPARE(m_scenario->configurationName()->text(), text(configuration.name));
-    m_scenario->chooseView(" Right");
+    QCOMPARE(m_scenario->user().configurationName()->text(), text(configuration.name));
+    m_scenario->user().chooseView(" Right");
     m_scenario->clickPreview();
     QCOMPARE(m_scenario->view().prompts().size(), std::size_t(1));
     const auto drawing = devcatalog::drawPart(part, configuration, "eDrawingView_RIGHT");
@@ -119,12 +119,12 @@ void ScenarioTest::theCatalogMayStopAndComeBack()
     m_scenario->connect();
     m_scenario->searchFor(term);
     m_scenario->waitForResults();
-    const QStringList firstPage = m_scenario->rowNames();
+    const QStringList firstPage = m_scenario->user().rowNames();
 
     m_scenario->stopCatalog();
     m_scenario->turnToPage("2");
-    QTRY_VERIFY_WITH_TIMEOUT(!m_scenario->hasPictures(), Patience);
-    QCOMPARE(m_scenario->rowNames(), firstPage); // made again from the last good reply
+    QTRY_VERIFY_WITH_TIMEOUT(!m_scenario->user().hasPictures(), Patience);
+    QCOMPARE(m_scenario->user().rowNames(), firstPage); // made again from the last good reply
     m_scenario->goBack();
     m_scenario->waitForReplies(QString(), 2); // the new panel's, which should have brought it a key
     m_scenario->searchFor(term);

@@ -21,7 +21,7 @@ public:
 
     FatalWarnings& warnings() { return m_warnings; }
     ScriptedService& service() { return m_catalog.service(); }
-    ConnectProxy& proxy() { return m_catalog.proxy(); }
+    devcatalog::ConnectProxy& proxy() { return m_catalog.proxy(); }
     /// All boxes that opened, oldest first.
     const QVector<SeenMessageBox>& boxes() const { return m_boxes.boxes(); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/ConnectProxy.h"
+#include "dev/catalog/proxy/ConnectProxy.h"
 #include "tests/support/ScriptedService.h"
 #include "tests/support/TestCertificates.h"
 
@@ -23,12 +23,12 @@ public:
     static QString host();
 
     ScriptedService& service() { return m_service; }
-    ConnectProxy& proxy() { return m_proxy; }
+    devcatalog::ConnectProxy& proxy() { return m_proxy; }
 
 private:
     TestCertificates m_certificates;
     ScriptedService m_service;
-    ConnectProxy m_proxy;
+    devcatalog::ConnectProxy m_proxy;
 };
 
 } // namespace test

@@ -7,7 +7,7 @@
 
 class QTcpSocket;
 
-namespace test
+namespace devcatalog
 {
 
 /**
@@ -52,4 +52,4 @@ private:
     QStringList m_destinations;
 };
 
-} // namespace test
+} // namespace devcatalog

@@ -1,4 +1,4 @@
-#include "bench/RatioReporter.h"
+#include "bench/service/RatioReporter.h"
 
 #include <vector>
 

@@ -1,12 +1,10 @@
-#include "tests/support/ConnectProxy.h"
-
-#include "tests/support/ConnectionReset.h"
+#include "dev/catalog/proxy/ConnectProxy.h"
 
 #include <QHostAddress>
 #include <QRegularExpression>
 #include <QTcpSocket>
 
-namespace test
+namespace devcatalog
 {
 
 namespace
@@ -35,7 +33,7 @@ ConnectProxy::ConnectProxy(quint16 targetPort, QObject* parent) : QObject(parent
     m_server.setProxy(QNetworkProxy::NoProxy);
     connect(&m_server, &QTcpServer::newConnection, this, &ConnectProxy::accept);
     if (!m_server.listen(QHostAddress::LocalHost))
-        qCritical("The test proxy cannot listen: %s", qPrintable(m_server.errorString()));
+        qCritical("The proxy cannot listen: %s", qPrintable(m_server.errorString()));
 }
 
 ConnectProxy::~ConnectProxy()
@@ -69,7 +67,7 @@ void ConnectProxy::readRequest()
     const int end = seen.indexOf(headEnd);
     if (end < 0) {
         if (seen.size() == MaximumHeadSize)
-            resetConnection(*client);
+            client->abort();
         return;
     }
     client->read(end + headEnd.size());
@@ -104,4 +102,4 @@ void ConnectProxy::openTunnel(QTcpSocket* client)
     target->connectToHost(QHostAddress(QHostAddress::LocalHost), m_targetPort);
 }
 
-} // namespace test
+} // namespace devcatalog

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace bench
+{
+
+/// What this process holds at a moment. A figure that the platform does not tell is 0.
+struct ProcessFigures {
+    int threads = 0;
+    int descriptors = 0;
+    qint64 heap = 0; ///< bytes allocated and not freed
+};
+
+ProcessFigures processFigures();
+
+/// @return the processor time of the calling thread so far, in nanoseconds; elsewhere the time of day.
+qint64 threadTime();
+
+} // namespace bench
