@@ -107,8 +107,10 @@ void PaneRun::logIn()
 
 StepTime PaneRun::search(const QString& term)
 {
+    m_user.typeTerm(term);
+    QCoreApplication::processEvents();
     return measure(
-        "a page of results", [&] { m_user.searchFor(term); }, [this] { return m_user.hasPictures(); });
+        "a page of results", [this] { m_user.pressReturn(); }, [this] { return m_user.hasPictures(); });
 }
 
 StepTime PaneRun::turnToPage(const QString& page)

@@ -166,7 +166,8 @@ void ScenarioFixture::logIn()
 void ScenarioFixture::searchFor(const QString& term)
 {
     m_user.openSearchTab();
-    m_user.searchFor(term);
+    m_user.typeTerm(term);
+    m_user.pressReturn();
 }
 
 void ScenarioFixture::turnToPage(const QString& page)

@@ -112,12 +112,14 @@ void PaneUser::logIn(const QString& user, const QString& password) const
     QTest::mouseClick(shown<QPushButton>("LogIn_pushButton"), Qt::LeftButton);
 }
 
-void PaneUser::searchFor(const QString& term) const
+void PaneUser::typeTerm(const QString& term) const
 {
-    auto* line = shown<QLineEdit>("SearchLine");
-    line->clear();
-    QTest::keyClicks(line, term);
-    QTest::keyClick(line, Qt::Key_Return);
+    QTest::keyClicks(shown<QLineEdit>("SearchLine"), term);
+}
+
+void PaneUser::pressReturn() const
+{
+    QTest::keyClick(shown<QLineEdit>("SearchLine"), Qt::Key_Return);
 }
 
 bool PaneUser::turnToPage(const QString& text) const

@@ -49,8 +49,9 @@ public:
     /// Goes to the login page, and sends the form.
     void logIn(const QString& user, const QString& password) const;
     void openSearchTab() const { openTab(1); }
-    /// From the main panel: types the term, and Return.
-    void searchFor(const QString& term) const;
+    /// On the main panel: types the term, and then Return.
+    void typeTerm(const QString& term) const;
+    void pressReturn() const;
     /// @return whether the results page has a button of that text to click.
     bool turnToPage(const QString& text) const;
     /// Clicks the row's thumbnail.

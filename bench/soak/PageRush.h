@@ -1,0 +1,32 @@
+#pragma once
+
+#include "bench/measuring/PaneRun.h"
+
+#include <QTimer>
+
+namespace bench
+{
+
+/// A user who turns pages faster than the service answers: so many clicks on page buttons in a second.
+class PageRush
+{
+public:
+    /// Both must outlive this. @param run at a results page, which must have the pages one to five.
+    PageRush(MeasuredApplication& application, PaneRun& run) : m_application(application), m_run(run) {}
+
+    /// Plays it and prints how it went.
+    /// @return whether the page that was asked for last is shown, and nothing is left of the others.
+    bool play(int clicks);
+
+private:
+    QStringList namesOfPage(int number);
+    void rush(int clicks);
+    void notePeak();
+
+    MeasuredApplication& m_application;
+    PaneRun& m_run;
+    int m_peakThreads = 0;
+    int m_peakDescriptors = 0;
+};
+
+} // namespace bench
