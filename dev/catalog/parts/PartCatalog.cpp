@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace devcatalog
 {
@@ -34,45 +35,32 @@ std::string replaced(std::string_view text, std::string_view placeholder, std::s
     return result;
 }
 
-const SizeTable& tableOf(const PartRange& range)
+template <class Row>
+const Row& rowNamed(std::string_view name, const Rows<Row>& rows, std::string_view Row::*key)
 {
-    const auto& tables = sizeTables();
-    const auto table = std::find_if(tables.begin(), tables.end(),
-                                    [&range](const SizeTable& each) { return each.name == range.table; });
-    if (table == tables.end())
-        throw std::logic_error("no size table " + std::string(range.table));
-    return *table;
-}
-
-std::size_t indexOf(const SizeTable& table, std::string_view designation, std::size_t otherwise)
-{
-    if (designation.empty())
-        return otherwise;
-    const auto size = std::find_if(table.sizes.begin(), table.sizes.end(), [designation](const Size& each) {
-        return each.designation == designation;
-    });
-    if (size == table.sizes.end())
-        throw std::logic_error("no size " + std::string(designation) + " in " + std::string(table.name));
-    return static_cast<std::size_t>(size - table.sizes.begin());
+    const auto* const row =
+        std::find_if(rows.begin(), rows.end(), [=](const Row& each) { return each.*key == name; });
+    if (row == rows.end())
+        throw std::logic_error("no row " + std::string(name) + " in the catalog's tables");
+    return *row;
 }
 
 Configuration makeConfiguration(const PartRange& range, const SizeTable& table, const Size& size,
                                 const std::string& variant)
 {
-    const std::vector<std::string> values = words(size.values);
-    if (values.size() != table.dimensions.size())
-        throw std::logic_error("wrong number of values for size " + std::string(size.designation) + " in " +
-                               std::string(table.name));
     Configuration configuration;
     configuration.name =
         replaced(replaced(table.configuration, "{size}", size.designation), "{variant}", variant);
+    const auto add = [&configuration](std::string_view name, std::string_view value, std::string_view unit) {
+        configuration.parameters.push_back({std::string(name), std::string(value), std::string(unit)});
+    };
+    const std::vector<std::string> values = words(size.values);
     for (std::size_t i = 0; i < values.size(); ++i)
-        configuration.parameters.push_back(
-            {std::string(table.dimensions[i].name), values[i], std::string(table.dimensions[i].unit)});
-    configuration.parameters.push_back(
-        {std::string(table.variant.name), variant, std::string(table.variant.unit)});
-    configuration.parameters.insert(configuration.parameters.end(), range.properties.begin(),
-                                    range.properties.end());
+        add(table.dimensions[i].name, values[i], table.dimensions[i].unit);
+    add(table.variant.name, variant, table.variant.unit);
+    for (const Property& property : range.properties)
+        if (!property.name.empty())
+            add(property.name, property.value, property.unit);
     return configuration;
 }
 
@@ -85,8 +73,25 @@ Part makePart(const PartRange& range, const SizeTable& table, const Size& size)
     part.description = replaced(range.description, "{size}", size.designation);
     for (const std::string& variant : words(size.variants))
         part.configurations.push_back(makeConfiguration(range, table, size, variant));
-    part.unsupportedViews.assign(range.unsupportedViews.begin(), range.unsupportedViews.end());
+    for (const std::string_view view : range.unsupportedViews)
+        if (!view.empty())
+            part.unsupportedViews.emplace_back(view);
     return part;
+}
+
+std::vector<Part> partsOf(const PartRange& range)
+{
+    const SizeTable& table = rowNamed(range.table, sizeTables(), &SizeTable::name);
+    const Size* first = table.sizes.begin();
+    const Size* last = table.sizes.end() - 1;
+    if (!range.sizes.first.empty())
+        first = &rowNamed(range.sizes.first, table.sizes, &Size::designation);
+    if (!range.sizes.last.empty())
+        last = &rowNamed(range.sizes.last, table.sizes, &Size::designation);
+    std::vector<Part> parts;
+    for (const Size* size = first; size <= last; ++size)
+        parts.push_back(makePart(range, table, *size));
+    return parts;
 }
 
 /// Letters that differ only in case, width or the way they are composed compare equal, also where a capital
@@ -103,12 +108,9 @@ QString folded(std::string_view text)
 
 PartCatalog::PartCatalog()
 {
-    for (const PartRange& range : partRanges()) {
-        const SizeTable& table = tableOf(range);
-        const std::size_t last = indexOf(table, range.last, table.sizes.size() - 1);
-        for (std::size_t i = indexOf(table, range.first, 0); i <= last; ++i)
-            m_parts.push_back(makePart(range, table, table.sizes[i]));
-    }
+    for (const PartRange& range : partRanges())
+        for (Part& part : partsOf(range))
+            m_parts.push_back(std::move(part));
     for (const Part& part : m_parts)
         m_searchTexts.push_back(folded(part.name + '\n' + part.supplier + '\n' + part.description));
 }
