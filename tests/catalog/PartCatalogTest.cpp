@@ -9,6 +9,16 @@
 
 using namespace devcatalog;
 
+namespace
+{
+
+bool contains(const std::string& text, const char* word)
+{
+    return QString::fromStdString(text).contains(word, Qt::CaseInsensitive);
+}
+
+} // namespace
+
 class PartCatalogTest : public QObject
 {
     Q_OBJECT
@@ -18,6 +28,7 @@ private slots:
     void searchFindsWordsInAnyOrderAndCase_data();
     void searchFindsWordsInAnyOrderAndCase();
     void searchFindsJustWhatHasEveryWord();
+    void searchShowsFirstWhatIsNamedSo();
     void findsAPartBySupplierAndName();
 
 private:
@@ -63,12 +74,10 @@ void PartCatalogTest::searchFindsWordsInAnyOrderAndCase_data()
         QTest::newRow(name) << QString::fromUtf8(term) << QString::fromUtf8(found);
     };
     const char* const bolt = "Brandmoor & Vogelsang: Hex bolt M8";
-    row("in another order", "M8 BOLT Hex", bolt);
     row("a word of the supplier", "vogelsang m8 bolt", bolt);
     row("a word of the description", "chromium(vi) M8", bolt);
     row("parts of words", "brand bol m8", bolt);
-    row("blanks around and between", "\t hex   bolt\nM8 ", bolt);
-    row("ampersand", "& hex bolt m8", bolt);
+    row("in another order, with blanks", "\t M8   BOLT\nHex ", bolt);
     row("wide letters", "ｈｅｘ ｂｏｌｔ m8", bolt);
     row("Cyrillic", "шарикоПОДШИПНИК 6204", "ООО «Клён-Подшипник»: Шарикоподшипник 6204");
     row("Greek", "ΕΛΑΙΏΝΑΣ 2 x 20 ΕΛΑΤΉΡΙΟ", "Ελαιώνας Ελατήρια Α.Ε.: Ελατήριο συμπίεσης 2 x 20");
@@ -95,11 +104,28 @@ void PartCatalogTest::searchFindsJustWhatHasEveryWord()
     const auto found = m_catalog.search("hex");
     QVERIFY(found.size() > 20); // Several pages.
     for (const Part& part : m_catalog.parts()) {
-        const std::string text = part.name + '\n' + part.supplier + '\n' + part.description;
-        QCOMPARE(std::count(found.begin(), found.end(), &part) == 1,
-                 QString::fromStdString(text).contains("hex", Qt::CaseInsensitive));
+        const bool hasWord = contains(part.name + part.family, "hex") || contains(part.supplier, "hex") ||
+                             contains(part.description, "hex");
+        QCOMPARE(std::count(found.begin(), found.end(), &part) == 1, hasWord);
     }
-    QVERIFY(std::is_sorted(found.begin(), found.end())); // In catalog order.
+}
+
+/// A word of the description alone is the least of reasons to show a part.
+void PartCatalogTest::searchShowsFirstWhatIsNamedSo()
+{
+    for (const char* term : {"gear", "washer"}) {
+        const auto isNamedSo = [term](const Part* part) { return contains(part->name + part->family, term); };
+        const auto isMadeSo = [term](const Part* part) { return contains(part->supplier, term); };
+        const auto found = m_catalog.search(term);
+        QVERIFY(std::is_partitioned(found.begin(), found.end(), isNamedSo));
+        const auto others = std::partition_point(found.begin(), found.end(), isNamedSo);
+        QVERIFY(std::is_partitioned(others, found.end(), isMadeSo));
+        QVERIFY(std::is_sorted(found.begin(), others)); // In catalog order.
+    }
+    QCOMPARE(m_catalog.search("gear").front()->family, std::string("spur-gear"));
+    QCOMPARE(m_catalog.search("gear").back()->family,
+             std::string("hex-bolt")); // "Not to be used for lifting gear"
+    QCOMPARE(m_catalog.search("m8 washer").front()->name, std::string("Washer M8"));
 }
 
 /// So that supplier and name tell any two parts apart.

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -112,21 +113,36 @@ PartCatalog::PartCatalog()
         for (Part& part : partsOf(range))
             m_parts.push_back(std::move(part));
     for (const Part& part : m_parts)
-        m_searchTexts.push_back(folded(part.name + '\n' + part.supplier + '\n' + part.description));
+        m_searchTexts.push_back(
+            {folded(part.name + '\n' + part.family), folded(part.supplier), folded(part.description)});
+}
+
+std::size_t PartCatalog::SearchTexts::depthOf(const QString& word) const
+{
+    std::size_t depth = 0;
+    for (const QString* text : {&title, &supplier, &description}) {
+        if (text->contains(word))
+            break;
+        ++depth;
+    }
+    return depth;
 }
 
 std::vector<const Part*> PartCatalog::search(std::string_view term) const
 {
-    const QStringList wanted = folded(term).simplified().split(' ', Qt::SkipEmptyParts);
-    std::vector<const Part*> found;
-    if (wanted.isEmpty())
-        return found;
-    for (std::size_t i = 0; i < m_parts.size(); ++i) {
-        const QString& text = m_searchTexts[i];
-        if (std::all_of(wanted.begin(), wanted.end(),
-                        [&text](const QString& word) { return text.contains(word); }))
-            found.push_back(&m_parts[i]);
+    constexpr std::size_t depths = 3;
+    std::array<std::vector<const Part*>, depths> hits;
+    const QStringList words = folded(term).simplified().split(' ', Qt::SkipEmptyParts);
+    for (std::size_t i = 0; i < m_parts.size() && !words.isEmpty(); ++i) {
+        std::size_t deepest = 0;
+        for (const QString& word : words)
+            deepest = std::max(deepest, m_searchTexts[i].depthOf(word));
+        if (deepest < depths)
+            hits[deepest].push_back(&m_parts[i]);
     }
+    std::vector<const Part*> found;
+    for (const std::vector<const Part*>& each : hits)
+        found.insert(found.end(), each.begin(), each.end());
     return found;
 }
 
