@@ -35,21 +35,23 @@ bool beginsWith(std::string_view text, std::string_view beginning)
     return text.substr(0, beginning.size()) == beginning;
 }
 
-/// A file name that every system takes, without dots.
+/// A file name that every system takes, without dots. Clients put a number of their own after it, which must
+/// not read as part of a size: it never ends in a digit.
 std::string fileStem(const Part& part)
 {
     constexpr std::size_t longest = 60;
-    constexpr std::string_view safe = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    constexpr std::string_view digits = "0123456789";
+    constexpr std::string_view safe = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
     std::string stem;
     for (const char character : part.name)
         if (safe.find(character) != std::string_view::npos)
             stem += character;
         else if (!stem.empty() && stem.back() != '_')
             stem += '_';
-    stem = stem.substr(0, longest);
-    while (!stem.empty() && stem.back() == '_')
-        stem.pop_back();
-    return stem.empty() ? part.family : stem;
+    if (stem.empty())
+        return part.family;
+    stem = stem.substr(0, longest - 1);
+    return digits.find(stem.back()) == std::string_view::npos ? stem : stem + '_';
 }
 
 } // namespace
