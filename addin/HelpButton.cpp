@@ -1,5 +1,6 @@
 #include "addin/HelpButton.h"
 
+#include "addin/Languages.h"
 #include "common/HostString.h"
 
 #include <pvInterface/pvApplication_c.h>
@@ -10,35 +11,11 @@ namespace
 
 constexpr long HelpTopic = 15050;
 
-struct HelpLanguage {
-    int hostValue;
-    const char* name;
-};
-
-constexpr HelpLanguage HelpLanguages[] = {
-    {2, "English"},
-    {1, "German"},
-    {9, "Chinese-simplified"},
-    {8, "Chinese"},
-    {7, "French"},
-    {10, "Italian"},
-    {6, "Japanese"},
-    {13, "Korean"},
-    {5, "Polish"},
-    {19, "Portuguese-brazilian"},
-    {18, "Russian"},
-    {11, "Spanish"},
-    {3, "Turkish"},
-    {20, "Czech"},
-};
-
 /// @return the language's name in help addresses; empty for a language without help.
-QString helpLanguageName(pvLanguage_e language)
+QString helpLanguageName(pvLanguage_e hostValue)
 {
-    for (const HelpLanguage& row : HelpLanguages)
-        if (row.hostValue == language)
-            return QLatin1String(row.name);
-    return QString();
+    const Language* language = findLanguage(hostValue);
+    return language != nullptr ? QLatin1String(language->helpName) : QString();
 }
 
 } // namespace

@@ -52,17 +52,27 @@ function(dockwidget_request_templates folder host result)
   set(${result} ${files} PARENT_SCOPE)
 endfunction()
 
-# Lays the bundle out in a folder as 3DPH.qrc names it and compiles it, uncompressed.
+# Lays the bundle out in a folder, as the folder resources/ has it, and compiles it, uncompressed.
 function(dockwidget_resource_bundle folder templates result)
   set(resources ${CMAKE_SOURCE_DIR}/resources)
-  file(GLOB_RECURSE artwork CONFIGURE_DEPENDS ${resources}/Resource/*)
+  file(GLOB_RECURSE artwork RELATIVE ${resources} CONFIGURE_DEPENDS ${resources}/Resource/*)
+  set(files "")
+  foreach(file ${templates} output.xml ${artwork} ${DOCKWIDGET_QM_FILES})
+    if(IS_ABSOLUTE ${file})
+      get_filename_component(file ${file} NAME)
+    endif()
+    string(APPEND files "        <file>${file}</file>\n")
+  endforeach()
+  file(CONFIGURE OUTPUT ${folder}/3DPH.qrc @ONLY CONTENT
+    "<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n    <qresource prefix=\"/3DPH\">\n@files@    </qresource>\n</RCC>\n")
+  list(TRANSFORM artwork PREPEND ${resources}/)
   get_target_property(rcc Qt5::rcc IMPORTED_LOCATION)
   add_custom_command(
     OUTPUT ${folder}/qrc_3DPH.cpp
     COMMAND ${CMAKE_COMMAND} -E copy_directory ${resources}/Resource ${folder}/Resource
-    COMMAND ${CMAKE_COMMAND} -E copy ${resources}/3DPH.qrc ${resources}/output.xml ${DOCKWIDGET_QM_FILES} ${folder}
+    COMMAND ${CMAKE_COMMAND} -E copy ${resources}/output.xml ${DOCKWIDGET_QM_FILES} ${folder}
     COMMAND ${rcc} --no-compress --name DockWidget_3DPH --output ${folder}/qrc_3DPH.cpp ${folder}/3DPH.qrc
-    DEPENDS ${resources}/3DPH.qrc ${resources}/output.xml ${artwork} ${templates} ${DOCKWIDGET_QM_FILES}
+    DEPENDS ${folder}/3DPH.qrc ${resources}/output.xml ${artwork} ${templates} ${DOCKWIDGET_QM_FILES}
     VERBATIM)
   set(${result} ${folder}/qrc_3DPH.cpp PARENT_SCOPE)
 endfunction()

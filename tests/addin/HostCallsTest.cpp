@@ -1,3 +1,4 @@
+#include "tests/addin/HostLanguages.h"
 #include "tests/addin/LoadedAddIn.h"
 
 #include <QTest>
@@ -156,16 +157,10 @@ void HostCallsTest::help_data()
     QTest::addColumn<QString>("opened");
 
     const QString link = "https://help.example/plotvane?x=1";
-    // By the host's number of the language.
-    const QStringList languages{"",        "German",   "English", "Turkish", "",
-                                "Polish",  "Japanese", "French",  "Chinese", "Chinese-simplified",
-                                "Italian", "Spanish",  "",        "Korean",  "",
-                                "",        "",         "",        "Russian", "Portuguese-brazilian",
-                                "Czech",   ""};
-    for (int language = 0; language < languages.size(); ++language)
-        QTest::addRow("web, language %d", language)
-            << language << link << QString()
-            << link + "?P=16&L=" + languages[language] + "&V=2019&C=PlotvaneKT&I=0";
+    for (const test::HostLanguage& language : test::hostLanguages())
+        QTest::addRow("web, language %d", language.value)
+            << language.value << link << QString()
+            << link + "?P=16&L=" + language.help + "&V=2019&C=PlotvaneKT&I=0";
     QTest::addRow("web, base with blanks and umlauts")
         << 2 << QString::fromUtf8("C:\\a b\\ü") << QString()
         << QString::fromUtf8("C:\\a b\\ü?P=16&L=English&V=2019&C=PlotvaneKT&I=0");
