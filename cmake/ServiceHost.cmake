@@ -7,12 +7,26 @@ set(PARTHARBOR_SERVICE_ENDUSER "Plotvane" CACHE STRING "ServiceLogin: end user")
 # The development tests run against services on free ports, reached under this name through a proxy of their own.
 set(DOCKWIDGET_TEST_SERVICE_HOST "catalog.test:8443")
 
+# dockwidget_check_service_host(host): ends the configuration when that is no host name with or without a port. The
+# name goes into addresses and XML as it stands.
+function(dockwidget_check_service_host host)
+  if(host MATCHES "[^ -~]")
+    message(FATAL_ERROR "PARTHARBOR_SERVICE_HOST '${host}' has letters beyond ASCII: give the name's punycode form, "
+      "which begins with xn--.")
+  endif()
+  if(NOT host MATCHES "^([A-Za-z0-9._-]+|\\[[0-9A-Fa-f:.]+\\])(:([0-9]+))?$")
+    message(FATAL_ERROR "PARTHARBOR_SERVICE_HOST '${host}' is no host: give the host's name, and a port if there is "
+      "one, without scheme and path, such as catalog.example.com or catalog.example.com:8443.")
+  endif()
+  if(CMAKE_MATCH_2 AND (CMAKE_MATCH_3 LESS 1 OR CMAKE_MATCH_3 GREATER 65535))
+    message(FATAL_ERROR "PARTHARBOR_SERVICE_HOST '${host}': ports go from 1 to 65535.")
+  endif()
+endfunction()
+dockwidget_check_service_host("${PARTHARBOR_SERVICE_HOST}")
+
 # dockwidget_add_service_host(target host): what depends on the service host, as an object library: the
 # addresses and the resource bundle with its request templates. Everything else is compiled once for all hosts.
 function(dockwidget_add_service_host target host)
-  if(NOT host)
-    message(FATAL_ERROR "PARTHARBOR_SERVICE_HOST is empty: the library needs a catalog service.")
-  endif()
   set(staging ${CMAKE_BINARY_DIR}/resources/${target})
   dockwidget_request_templates(${staging} ${host} templates)
   dockwidget_resource_bundle(${staging} "${templates}" bundle)
@@ -32,6 +46,7 @@ function(dockwidget_request_templates folder host result)
   foreach(value HOST CATALOG USER PASSWORD ENDUSER)
     string(REPLACE "&" "&amp;" PARTHARBOR_SERVICE_${value} "${PARTHARBOR_SERVICE_${value}}")
     string(REPLACE "<" "&lt;" PARTHARBOR_SERVICE_${value} "${PARTHARBOR_SERVICE_${value}}")
+    string(REPLACE "]]>" "]]&gt;" PARTHARBOR_SERVICE_${value} "${PARTHARBOR_SERVICE_${value}}")
   endforeach()
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/templates/*.xml.in)
   set(files)
