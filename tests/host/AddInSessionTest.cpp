@@ -5,6 +5,8 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QAction>
+#include <QLabel>
+#include <QPushButton>
 #include <QtTest>
 
 #include <memory>
@@ -55,14 +57,22 @@ void AddInSessionTest::choicesTakeEffectAtTheNextConnect()
     QVERIFY(session.start());
     QCOMPARE(window.commandLine().history().last(), QString("Add-in STAND-IN connected."));
 
+    const auto* offer = window.findChild<QWidget*>("reconnectBar");
+    for (const auto& [theme, isOffered] : {std::pair("darkTheme", true), std::pair("lightTheme", false)}) {
+        window.findChild<QAction*>(theme)->trigger();
+        QCOMPARE(!offer->isHidden(), isOffered);
+    }
     window.findChild<QAction*>("language6")->trigger();
+    QVERIFY(window.findChild<QLabel*>("reconnectText")->text().contains("Japanese"));
     window.findChild<QAction*>("darkTheme")->trigger();
     window.findChild<QAction*>("webHelp")->trigger();
     QCOMPARE(window.host().settings().language, 2);
     QVERIFY(!window.host().settings().webHelp);
 
     window.host().journal().clear();
-    window.findChild<QAction*>("reconnect")->trigger();
+    QVERIFY(!offer->isHidden());
+    window.findChild<QPushButton*>("reconnectNow")->click();
+    QVERIFY(offer->isHidden());
     QCOMPARE(window.host().journal().lines(),
              (QStringList{R"(RemoveUserInterface("STAND-IN"))", "GetLanguage()"}));
     QCOMPARE(window.host().settings().language, 6);

@@ -6,6 +6,7 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -61,6 +62,7 @@ private slots:
     void commandsAreRunByName();
     void userCommandShowsOnMenuAndRibbon();
     void paneIsDockedAroundANativeWidget();
+    void hostedWidgetsFollowTheTheme();
     void drawingsOpenSwitchAndClose();
     void wheelZoomsAroundTheCursorAndMiddleButtonPans();
 
@@ -362,6 +364,26 @@ void MainWindowTest::paneIsDockedAroundANativeWidget()
     control->Destroy();
     QVERIFY(content.isNull());
     QVERIFY(m_window->findChild<QDockWidget*>("pane") == nullptr);
+}
+
+void MainWindowTest::hostedWidgetsFollowTheTheme()
+{
+    const auto pictureOf = [](QLabel& label) { return label.grab(QRect(0, 0, 90, 20)).toImage(); };
+    for (const char* sheet : {"", "font-weight: bold;"}) {
+        for (const char* text : {"Text", "<a href='.'>Link</a>"}) {
+            QLabel old(text, m_window.get());
+            old.setStyleSheet(sheet);
+            const QImage before = pictureOf(old);
+            for (const char* theme : {"darkTheme", "lightTheme"}) {
+                m_window->findChild<QAction*>(theme)->trigger();
+                QLabel made(text, m_window.get());
+                made.setStyleSheet(sheet);
+                QCOMPARE(pictureOf(old), pictureOf(made));
+                QCOMPARE(pictureOf(old) == before, theme == QString("lightTheme"));
+                QCOMPARE(old.styleSheet(), QString(sheet));
+            }
+        }
+    }
 }
 
 void MainWindowTest::drawingsOpenSwitchAndClose()

@@ -12,6 +12,12 @@ struct HostSettings {
     bool webHelp = false;
     QString webLink = "https://help.plotvane.example/"; ///< Base address of the web help.
     QString helpFile = "Help/Plotvane.chm";             ///< Path of the compiled help file.
+
+    friend bool operator==(const HostSettings& one, const HostSettings& other)
+    {
+        return one.language == other.language && one.darkTheme == other.darkTheme &&
+               one.webHelp == other.webHelp && one.webLink == other.webLink && one.helpFile == other.helpFile;
+    }
 };
 
 } // namespace devhost

@@ -44,7 +44,12 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
     webHelp->setObjectName("webHelp");
     webHelp->setCheckable(true);
     webHelp->setChecked(settings.webHelp);
-    connect(webHelp, &QAction::toggled, this, [this](bool on) { m_settings.webHelp = on; });
+    webHelp->setToolTip("Takes effect at the add-in's next connect");
+    connect(webHelp, &QAction::toggled, this, [this](bool on) {
+        m_settings.webHelp = on;
+        emit nextConnectChosen(QString("Help opens %1 once the add-in connects anew.")
+                                   .arg(on ? "on the web" : "from the compiled file"));
+    });
 
     addSeparator();
     QAction* reconnect = addAction("&Reconnect Add-in");
@@ -61,6 +66,7 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
 void HostMenu::addLanguages()
 {
     QMenu* menu = addMenu("&Language");
+    menu->addSection("From the Next Connect");
     auto* group = new QActionGroup(menu);
     for (const Language& language : Languages) {
         QAction* action = menu->addAction(language.name);
@@ -68,8 +74,10 @@ void HostMenu::addLanguages()
         action->setCheckable(true);
         action->setChecked(language.value == m_settings.language);
         group->addAction(action);
-        connect(action, &QAction::triggered, this,
-                [this, value = language.value] { m_settings.language = value; });
+        connect(action, &QAction::triggered, this, [this, language] {
+            m_settings.language = language.value;
+            emit nextConnectChosen(QString("The add-in speaks %1 once it connects anew.").arg(language.name));
+        });
     }
 }
 
@@ -86,6 +94,9 @@ void HostMenu::addThemes()
         connect(action, &QAction::triggered, this, [this, dark] {
             m_settings.darkTheme = dark;
             emit darkThemeChosen(dark);
+            emit nextConnectChosen(
+                "The add-in learns of the theme once it connects anew; its icons and message "
+                "boxes keep the one that it read first.");
         });
     }
 }

@@ -21,6 +21,8 @@ public:
 
 signals:
     void darkThemeChosen(bool dark);
+    /// What the add-in learns only at its next connect was chosen. @param consequence what it brings then.
+    void nextConnectChosen(const QString& consequence);
     void reconnectChosen();
     void galleryChosen();
 

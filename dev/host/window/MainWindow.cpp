@@ -7,7 +7,9 @@
 #include "dev/host/window/HostMenu.h"
 #include "dev/host/window/HostMenuBar.h"
 #include "dev/host/window/JournalPanel.h"
+#include "dev/host/window/ReconnectBar.h"
 #include "dev/host/window/Ribbon.h"
+#include "dev/host/window/SheetsSetAside.h"
 #include "dev/host/window/WidgetGallery.h"
 #include "dev/host/window/WindowTheme.h"
 #include "dev/host/window/WindowView.h"
@@ -47,6 +49,7 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
       m_menuBar(new HostMenuBar),
       m_hostMenu(new HostMenu(settings, m_menuBar)),
       m_ribbon(new Ribbon),
+      m_reconnectBar(new ReconnectBar),
       m_documentTabs(new QTabBar),
       m_coordinates(new QLabel),
       m_gridButton(new QToolButton)
@@ -100,6 +103,7 @@ void MainWindow::createLayout()
     auto* layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    layout->addWidget(m_reconnectBar);
     layout->addWidget(m_documentTabs);
     layout->addWidget(m_drawingArea, 1);
     setCentralWidget(centre);
@@ -162,7 +166,10 @@ void MainWindow::connectParts()
     connect(m_menuBar, &HostMenuBar::userCommandChosen, this, runUserCommand);
     connect(m_ribbon, &Ribbon::userCommandChosen, this, runUserCommand);
     connect(m_hostMenu, &HostMenu::darkThemeChosen, this, &MainWindow::applyTheme);
+    connect(m_hostMenu, &HostMenu::nextConnectChosen, this, &MainWindow::offerReconnect);
     connect(m_hostMenu, &HostMenu::reconnectChosen, this, &MainWindow::reconnectRequested);
+    connect(m_reconnectBar, &ReconnectBar::reconnectChosen, this, &MainWindow::reconnectRequested);
+    connect(this, &MainWindow::reconnectRequested, m_reconnectBar, &QWidget::hide);
     connect(m_hostMenu, &HostMenu::galleryChosen, this, &MainWindow::showGallery);
     connect(m_gridButton, &QToolButton::clicked, this, &MainWindow::toggleGrid);
 
@@ -220,11 +227,20 @@ void MainWindow::printCommands()
 
 void MainWindow::applyTheme(bool dark)
 {
+    const SheetsSetAside sheets(*this);
     applyWindowTheme(dark);
     m_drawingArea->setDark(dark);
     showMenus(); // Icons have the colour of the text.
     showRibbon();
     showDocuments();
+}
+
+void MainWindow::offerReconnect(const QString& consequence)
+{
+    if (chosenSettings() == m_host->settings())
+        m_reconnectBar->hide();
+    else
+        m_reconnectBar->offer(consequence);
 }
 
 void MainWindow::showMenus()

@@ -19,6 +19,7 @@ class DrawingArea;
 class HostMenu;
 class HostMenuBar;
 class PlacementPrompt;
+class ReconnectBar;
 class Ribbon;
 class WindowView;
 
@@ -61,6 +62,7 @@ private:
     void connectParts();
     void takeText(const QString& text);
     void applyTheme(bool dark);
+    void offerReconnect(const QString& consequence);
     void showMenus();
     void showRibbon();
     void showDocuments();
@@ -77,6 +79,7 @@ private:
     HostMenuBar* m_menuBar = nullptr;
     HostMenu* m_hostMenu = nullptr;
     Ribbon* m_ribbon = nullptr;
+    ReconnectBar* m_reconnectBar = nullptr;
     QTabBar* m_documentTabs = nullptr;
     QLabel* m_coordinates = nullptr;
     QToolButton* m_gridButton = nullptr;
