@@ -4,13 +4,17 @@
 #include "dev/catalog/proxy/ConnectProxy.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QNetworkProxy>
 #include <QSslConfiguration>
 #include <QTextStream>
 
 #include <chrono>
 #include <exception>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <mutex>
 #include <string>
 #include <thread>
 
@@ -25,9 +29,24 @@ constexpr int Patience = 30000; // Milliseconds.
 
 struct Order {
     std::string serviceHost;
-    std::string certificateFolder;
+    std::filesystem::path folder;
     std::chrono::milliseconds delay{0};
 };
+
+/// Called in the catalog's threads.
+void record(const devcatalog::HttpRequest& request, const std::filesystem::path& folder)
+{
+    static std::mutex mutex;
+    const std::lock_guard<std::mutex> lock(mutex);
+    const auto action = request.headers.find("soapaction");
+    if (action == request.headers.end())
+        return;
+    const auto file = folder / action->second.substr(action->second.rfind('/') + 1);
+    if (!std::filesystem::exists(file))
+        std::ofstream(file, std::ios::binary) << request.path << '\n'
+                                              << action->second << '\n'
+                                              << request.body;
+}
 
 devcatalog::CatalogServerOptions serverOptions(const Order& order)
 {
@@ -36,11 +55,12 @@ devcatalog::CatalogServerOptions serverOptions(const Order& order)
     options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
                               PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
     options.users = {{CatalogProcess::User, CatalogProcess::Password}};
-    options.certificateFolder = order.certificateFolder;
-    if (order.delay.count() > 0)
-        options.beforeReply = [delay = order.delay](const auto&, auto&) {
-            std::this_thread::sleep_for(delay);
-        };
+    options.certificateFolder = order.folder / "certificates";
+    options.beforeReply = [order](const devcatalog::HttpRequest& request, const auto&) {
+        record(request, order.folder);
+        if (order.delay.count() > 0)
+            std::this_thread::sleep_for(order.delay);
+    };
     return options;
 }
 
@@ -89,9 +109,10 @@ bool CatalogProcess::serveIfAsked(int argc, char** argv)
 
 bool CatalogProcess::start(const QString& serviceHost, int delay)
 {
+    m_serviceHost = serviceHost;
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QCoreApplication::applicationFilePath(),
-                    {ServeOption, serviceHost, m_certificateFolder.path(), QString::number(delay)});
+                    {ServeOption, serviceHost, m_folder.path(), QString::number(delay)});
     while (!m_process.canReadLine())
         if (!m_process.waitForReadyRead(Patience))
             return false;
@@ -100,6 +121,16 @@ bool CatalogProcess::start(const QString& serviceHost, int delay)
         return false;
     use(told[0].toUShort(), told[1]);
     return true;
+}
+
+RecordedPost CatalogProcess::recorded(const QString& operation) const
+{
+    QFile file(m_folder.filePath(operation));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray path = file.readLine().trimmed();
+    const QByteArray action = file.readLine().trimmed();
+    return {QUrl("https://" + m_serviceHost + QString::fromUtf8(path)), action, file.readAll()};
 }
 
 void CatalogProcess::use(quint16 proxyPort, const QString& caFile)

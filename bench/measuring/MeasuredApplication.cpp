@@ -5,7 +5,6 @@
 #include <QChildEvent>
 #include <QElapsedTimer>
 #include <QMessageBox>
-#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QScopedValueRollback>
 #include <QThread>

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QNetworkAccessManager>
 #include <QPointer>
 #include <QStringList>
 #include <QVector>
-
-class QNetworkAccessManager;
 
 namespace bench
 {
@@ -36,6 +35,11 @@ public:
     /// of their replies have finished.
     int requests() const { return m_requests; }
     int finishedRequests() const { return m_finishedRequests; }
+    /// @return the manager that was the last to begin; null when there is none, or it is gone.
+    QNetworkAccessManager* newestManager() const
+    {
+        return m_managers.isEmpty() ? nullptr : m_managers.constLast();
+    }
 
     /// @return the texts of the message boxes so far.
     const QStringList& boxTexts() const { return m_boxTexts; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bench/measuring/MeasuredApplication.h"
+#include "bench/measuring/Steps.h"
 #include "dev/host/headless/HeadlessView.h"
 #include "dev/host/headless/PaneUser.h"
 #include "dev/host/model/AddInLibrary.h"
@@ -8,17 +9,10 @@
 
 #include <QTemporaryDir>
 
-#include <functional>
 #include <memory>
 
 namespace bench
 {
-
-/// What a step of the user took, from the click to its outcome on the screen.
-struct StepTime {
-    qint64 threadTime = 0; ///< of the interface thread, without this program's own looking; nanoseconds
-    qint64 wallTime = 0;   ///< nanoseconds
-};
 
 /// A built library in a host without a window, and a user who walks through its pages. Each step ends when
 /// its outcome is on the screen; one that never comes ends the program with a message.
@@ -41,22 +35,21 @@ public:
     void logIn();
     StepTime search(const QString& term);
     StepTime turnToPage(const QString& page);
+    /// Until its configuration, its picture and all replies are there.
     StepTime openPart(int row);
     /// Clicks the preview, until the drawing is placed and its file gone.
     StepTime download();
     StepTime backToResults();
     StepTime backToMainPanel();
 
+    /// @return whether no request is under way.
+    bool hasAllReplies() const;
     /// Waits until all replies have come, and what they leave behind has gone.
     void settle();
     /// Has the host forget what it keeps for each step: a program's journal and drawing, not the add-in's.
     void forgetHostRecords();
-    /// Turns the event loop until the condition holds; @p what names it should that never happen.
-    void waitFor(const char* what, const std::function<bool()>& condition);
 
 private:
-    StepTime measure(const char* what, const std::function<void()>& act, const std::function<bool()>& isDone);
-
     MeasuredApplication& m_application;
     QTemporaryDir m_currentFolder;
     QString m_folderBefore;
@@ -64,7 +57,6 @@ private:
     devhost::PaneUser m_user{m_view};
     std::shared_ptr<devhost::HostApplication> m_host;
     devhost::AddInLibrary m_library;
-    qint64 m_lookingTime = 0; ///< processor time spent on conditions, nanoseconds
 };
 
 } // namespace bench

@@ -2,7 +2,7 @@
 
 #include "bench/measuring/PaneRun.h"
 
-#include <QTimer>
+#include <QMap>
 
 namespace bench
 {
@@ -15,16 +15,22 @@ public:
     PageRush(MeasuredApplication& application, PaneRun& run) : m_application(application), m_run(run) {}
 
     /// Plays it and prints how it went.
-    /// @return whether the page that was asked for last is shown, and nothing is left of the others.
+    /// @return whether the page whose reply came last is shown, and nothing is left of the others.
     bool play(int clicks);
 
 private:
-    QStringList namesOfPage(int number);
+    void learnPages();
+    void clickPage(int number);
     void rush(int clicks);
+    bool report(int clicks) const;
     void notePeak();
 
     MeasuredApplication& m_application;
     PaneRun& m_run;
+    QMap<int, QStringList> m_names; ///< the rows of each page
+    int m_newestPage = 0;           ///< the one whose reply came last
+    int m_requestsBefore = 0;
+    int m_finishedBefore = 0;
     int m_peakThreads = 0;
     int m_peakDescriptors = 0;
 };
