@@ -21,6 +21,11 @@ double median(const QVector<StepTime>& times, qint64 StepTime::*kind)
     return double(sorted.value(sorted.size() / 2)) / Million;
 }
 
+QByteArray number(double value)
+{
+    return QByteArray::number(value, 'f', 2);
+}
+
 } // namespace
 
 void RoadFigures::add(const QString& step, const QString& who, const StepTime& time)
@@ -47,14 +52,11 @@ void RoadFigures::printLine(const QString& step, const QStringList& libraries, q
     const Times& times = m_times[step];
     const double bare = median(times["bare"], kind);
     const char* const unit = kind == &StepTime::wallTime ? "wall" : "thread";
-    std::printf("%-26s %-7s %8.2f", qPrintable(step), unit, bare);
+    const bool hasFloor = times.contains("bare");
+    std::printf("%-26s %-7s %8s", qPrintable(step), unit, hasFloor ? number(bare).constData() : "");
     for (const QString& library : libraries) {
         const double time = median(times[library], kind);
-        std::printf(" %11.2f", time);
-        if (bare > 0)
-            std::printf(" %6.2f", time / bare);
-        else
-            std::printf("       ");
+        std::printf(" %11s %6s", number(time).constData(), hasFloor ? number(time / bare).constData() : "");
     }
     std::printf("\n");
 }
