@@ -60,6 +60,7 @@ private:
     void buildPanel();
     void buildSearchRow();
     void startSearch();
+    /// Gives back what only a shown panel needs, its section above all.
     void leave();
 
     PartHarbor_2D* m_resultsPage = nullptr;

@@ -116,9 +116,12 @@ void PartHarbor_2D::fillTable()
 {
     removeRows();
     readResults();
+    // Hidden, the table lays its rows out once, when all are there, and not each of them at each step.
+    m_form->tableWidget->viewport()->hide();
     QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
         control = addRow(row)->followInTabOrder(control);
+    m_form->tableWidget->viewport()->show();
 }
 
 void PartHarbor_2D::removeRows()

@@ -15,6 +15,7 @@
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
+#include "service/Transfer.h"
 #include "ui_PreviewUI.h"
 
 #include <QButtonGroup>
@@ -176,8 +177,8 @@ void PreviewUI::CategoryButtonPressed(int id)
 void PreviewUI::leave()
 {
     hide();
-    m_preview_label->clear();
-    m_configTable->clear(); // the row goes
+    m_sectionItems.clear();
+    m_form->preview_page->clear();
     m_inputParameters = QDomNodeList();
 }
 
@@ -208,6 +209,10 @@ void PreviewUI::GetConfigInfo()
 
 void PreviewUI::ConfigData(QNetworkReply* reply)
 {
+    if (isHidden()) { // left meanwhile, its label gone
+        releaseTransfer(reply);
+        return;
+    }
     SoapReply answer(reply);
     if (!answer.open())
         return;
@@ -228,6 +233,10 @@ void PreviewUI::ConfigData(QNetworkReply* reply)
 void PreviewUI::ConfigParamData(QNetworkReply* reply)
 {
     m_inputParameters = QDomNodeList();
+    if (isHidden()) {
+        releaseTransfer(reply);
+        return;
+    }
     SoapReply answer(reply);
     if (!answer.open())
         return;

@@ -73,6 +73,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Hides the page for good. What only a shown page needs, its sections above all, is given back.
     void leave();
     void buildConfigureSection();
     void buildPreviewSection();

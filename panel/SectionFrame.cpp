@@ -14,7 +14,6 @@ constexpr int PictureHeight = 320;
 
 SectionFrame::SectionFrame(QTreeWidget* tree) : QFrame(tree), m_tree(tree)
 {
-    setStyleSheet(QLatin1String("margin-bottom: 5px;"));
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Sunken);
 }
@@ -23,6 +22,8 @@ void SectionFrame::showIn(QTreeWidgetItem* item)
 {
     m_item = item;
     m_tree->setItemWidget(item, 0, this);
+    // Last, for every widget below a sheet is polished anew whenever it moves.
+    setStyleSheet(QLatin1String("margin-bottom: 5px;"));
 }
 
 void SectionFrame::fillTree()

@@ -6,13 +6,35 @@
 #include "service/PictureRequest.h"
 #include "ui_TableItem.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QPointer>
+#include <QPushButton>
+#include <QStyleOptionButton>
+
+namespace
+{
+
+constexpr QSize IconSize(80, 130);
+
+/// @return how high a thumbnail's button is once it has an icon.
+int heightWithIcon(const QPushButton* button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.features = QStyleOptionButton::Flat;
+    option.iconSize = IconSize;
+    return button->style()->sizeFromContents(QStyle::CT_PushButton, &option, IconSize, button).height();
+}
+
+} // namespace
 
 TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
     : QWidget(parent), m_form(std::make_unique<Ui::TableItem>()), m_page(page)
 {
     m_form->setupUi(this);
+    // Kept free from the start, so that no row, and nothing around it, is laid out anew when a picture comes.
+    m_form->gridLayout_4->setRowMinimumHeight(1, heightWithIcon(m_form->iconpushButton));
     connect(m_form->iconpushButton, SIGNAL(clicked()), this, SLOT(Preview()));
 }
 
@@ -57,8 +79,9 @@ QWidget* TableItem::followInTabOrder(QWidget* previous)
 
 void TableItem::Iamgedata(QNetworkReply* pReply)
 {
-    m_form->iconpushButton->setIcon(QIcon(takePicture(pReply)));
-    m_form->iconpushButton->setIconSize(QSize(80, 130));
+    // No larger than the sharpest screen shows it.
+    m_form->iconpushButton->setIcon(QIcon(takePicture(pReply, IconSize * qApp->devicePixelRatio())));
+    m_form->iconpushButton->setIconSize(IconSize);
 }
 
 void TableItem::Preview()

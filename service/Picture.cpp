@@ -11,8 +11,6 @@ namespace
 {
 
 constexpr qint64 MaximumPixels = 16'000'000;
-/// Width and height of what is kept: more than any pane shows, and few megabytes for each of many rows.
-constexpr QSize Kept(1024, 1024);
 /// Scans of a JPEG: real ones have about ten, and each goes over all of the picture.
 constexpr int MaximumScans = 32;
 
@@ -71,7 +69,7 @@ bool isAcceptable(const QByteArray& format, const QByteArray& bytes)
 
 } // namespace
 
-QPixmap pictureFromBytes(const QByteArray& bytes)
+QPixmap pictureFromBytes(const QByteArray& bytes, const QSize& bound)
 {
     QBuffer buffer;
     buffer.setData(bytes.startsWith("\x89PNG") ? withoutTexts(bytes) : bytes);
@@ -82,12 +80,12 @@ QPixmap pictureFromBytes(const QByteArray& bytes)
     QImageReader reader(&buffer, format);
 
     // These formats tell their size before anything is decoded.
-    const QSize told = reader.size();
-    const qint64 height = qAbs<qint64>(told.height()); // negative for a BMP that begins at its top
-    if (told.width() <= 0 || height == 0 || told.width() * height > MaximumPixels)
+    const QSize stated = reader.size();
+    const qint64 height = qAbs<qint64>(stated.height()); // negative for a BMP that begins at its top
+    if (stated.width() <= 0 || height == 0 || stated.width() * height > MaximumPixels)
         return QPixmap();
-    const QSize size(told.width(), static_cast<int>(height));
-    if (size.boundedTo(Kept) != size)
-        reader.setScaledSize(size.scaled(Kept, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    const QSize size(stated.width(), static_cast<int>(height));
+    if (size.boundedTo(bound) != size)
+        reader.setScaledSize(size.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     return QPixmap::fromImage(reader.read());
 }

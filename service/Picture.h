@@ -2,8 +2,13 @@
 
 #include <QByteArray>
 #include <QPixmap>
+#include <QSize>
+
+/// In pixels: more than any pane shows of a picture, and few megabytes.
+constexpr QSize MaximumPictureSize(1024, 1024);
 
 /// Decodes a picture from outside: a PNG, JPEG, GIF or BMP, told by its data. Other formats count as none,
 /// and so do pictures of more than 16 million pixels or 32 scans, cut pictures, and bytes that are no image.
-/// @return the picture, larger ones reduced to 1024 pixels a side; null when there is none.
-QPixmap pictureFromBytes(const QByteArray& bytes);
+/// @param bound in pixels; larger pictures are reduced to fit, smaller ones stay.
+/// @return the picture; null when there is none.
+QPixmap pictureFromBytes(const QByteArray& bytes, const QSize& bound = MaximumPictureSize);

@@ -1,6 +1,5 @@
 #include "service/PictureRequest.h"
 
-#include "service/Picture.h"
 #include "service/Transfer.h"
 
 #include <QUrl>
@@ -18,7 +17,7 @@ void requestPicture(const QString& url, QObject* asker, const char* replySlot)
     getTransfer(QUrl(url), MaximumPictureBytes, asker, replySlot);
 }
 
-QPixmap takePicture(QNetworkReply* reply)
+QPixmap takePicture(QNetworkReply* reply, const QSize& bound)
 {
-    return pictureFromBytes(takeBody(reply));
+    return pictureFromBytes(takeBody(reply), bound);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "service/Picture.h"
+
 #include <QPixmap>
 
 class QNetworkReply;
@@ -15,5 +17,6 @@ class QString;
 void requestPicture(const QString& url, QObject* asker, const char* replySlot);
 
 /// Reads a picture's reply, and arranges the release of reply and network manager.
+/// @param bound as in pictureFromBytes().
 /// @return the picture; null when the reply brought none (see pictureFromBytes()).
-QPixmap takePicture(QNetworkReply* reply);
+QPixmap takePicture(QNetworkReply* reply, const QSize& bound = MaximumPictureSize);
