@@ -2,6 +2,7 @@
 
 #include "dev/catalog/CatalogSite.h"
 #include "dev/catalog/CertificateAuthority.h"
+#include "dev/catalog/CertificateFolder.h"
 #include "dev/catalog/HttpsListener.h"
 #include "dev/catalog/ServiceHost.h"
 #include "dev/catalog/soap/SoapService.h"
@@ -25,6 +26,11 @@ std::string logLine(const RequestRecord& request)
            fault;
 }
 
+std::filesystem::path certificateFolder(const CatalogServerOptions& options)
+{
+    return options.certificateFolder.empty() ? defaultCertificateFolder() : options.certificateFolder;
+}
+
 } // namespace
 
 /// All that serves between start and stop.
@@ -33,7 +39,7 @@ class CatalogServer::Service
 public:
     /// Takes the port.
     explicit Service(const CatalogServerOptions& options)
-        : m_site(m_catalog), m_authority(options.certificateFolder)
+        : m_site(m_catalog), m_authority(certificateFolder(options))
     {
         const std::string local = "localhost";
         const ServiceHost given(options.serviceHost.empty() ? local : options.serviceHost);

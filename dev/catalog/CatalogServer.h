@@ -27,7 +27,7 @@ struct CatalogServerOptions {
     ServiceAccount serviceAccount;
     std::vector<UserAccount> users;
 
-    /// Where the certificate authority is kept; created where needed.
+    /// Where the certificate authority is kept; created where needed. Empty: defaultCertificateFolder().
     std::filesystem::path certificateFolder;
 
     /// Takes a line for each request; it never holds a password, session id, key or token. Called from the

@@ -1,8 +1,6 @@
 /// The development catalog as a program of its own.
 
-#include "dev/catalog/CatalogServer.h"
-#include "dev/catalog/CertificateFolder.h"
-#include "dev/catalog/ServiceHost.h"
+#include "dev/catalog/BuiltInOptions.h"
 
 #include <exception>
 #include <future>
@@ -14,24 +12,12 @@
 namespace
 {
 
-constexpr const char* usage =
+constexpr const char* Usage =
     "Usage: devcatalog-server [--port N] [--certificates DIR] [--log]\n"
-    "Serves the development catalog as https://" PARTHARBOR_SERVICE_HOST
-    " on this machine until it is ended.\n"
+    "Serves the development catalog on this machine until it is ended.\n"
     "  --port N            listen at this port, 0 for any free one, instead of the service host's\n"
     "  --certificates DIR  keep the certificate authority here instead of in the user's cache\n"
     "  --log               print a line for each request\n";
-
-devcatalog::CatalogServerOptions builtInOptions()
-{
-    devcatalog::CatalogServerOptions options;
-    options.serviceHost = PARTHARBOR_SERVICE_HOST;
-    options.port = devcatalog::ServiceHost(options.serviceHost).port();
-    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
-                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
-    options.users = {{"demo@partharbor.example", "demo"}};
-    return options;
-}
 
 int parsePort(const std::string& text)
 {
@@ -45,7 +31,7 @@ int parsePort(const std::string& text)
 
 devcatalog::CatalogServerOptions parseArguments(const std::vector<std::string>& arguments)
 {
-    devcatalog::CatalogServerOptions options = builtInOptions();
+    devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
     for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
         const bool hasValue = argument + 1 != arguments.end();
         if (*argument == "--port" && hasValue)
@@ -55,17 +41,15 @@ devcatalog::CatalogServerOptions parseArguments(const std::vector<std::string>& 
         else if (*argument == "--log")
             options.log = [](const std::string& line) { std::cout << line << std::endl; };
         else
-            throw std::invalid_argument("'" + *argument + "' is not understood.\n" + usage);
+            throw std::invalid_argument("'" + *argument + "' is not understood.\n" + Usage);
     }
-    if (options.certificateFolder.empty())
-        options.certificateFolder = devcatalog::defaultCertificateFolder();
     return options;
 }
 
 int run(const std::vector<std::string>& arguments)
 {
     if (!arguments.empty() && arguments.front() == "--help") {
-        std::cout << usage;
+        std::cout << Usage;
         return 0;
     }
     const devcatalog::CatalogServerOptions options = parseArguments(arguments);

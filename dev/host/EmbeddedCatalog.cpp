@@ -1,8 +1,6 @@
 #include "dev/host/EmbeddedCatalog.h"
 
-#include "dev/catalog/CatalogServer.h"
-#include "dev/catalog/CertificateFolder.h"
-#include "dev/catalog/ServiceHost.h"
+#include "dev/catalog/BuiltInOptions.h"
 
 #include <algorithm>
 #include <chrono>
@@ -16,19 +14,6 @@ namespace devhost
 
 namespace
 {
-
-devcatalog::CatalogServerOptions builtInOptions()
-{
-    devcatalog::CatalogServerOptions options;
-    options.serviceHost = PARTHARBOR_SERVICE_HOST;
-    options.port = devcatalog::ServiceHost(options.serviceHost).port();
-    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
-                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
-    options.users = {
-        {EmbeddedCatalog::accountUser().toStdString(), EmbeddedCatalog::accountPassword().toStdString()}};
-    options.certificateFolder = devcatalog::defaultCertificateFolder();
-    return options;
-}
 
 int randomNumber(int most)
 {
@@ -65,7 +50,7 @@ EmbeddedCatalog::~EmbeddedCatalog() = default;
 bool EmbeddedCatalog::start(const CatalogFaults& faults)
 {
     try {
-        devcatalog::CatalogServerOptions options = builtInOptions();
+        devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
         options.beforeReply = [faults](const devcatalog::HttpRequest&, devcatalog::HttpReply& reply) {
             inject(faults, reply);
         };
@@ -86,12 +71,12 @@ QString EmbeddedCatalog::caFile() const
 
 QString EmbeddedCatalog::accountUser()
 {
-    return "demo@partharbor.example";
+    return QString::fromStdString(devcatalog::demoAccount().userId);
 }
 
 QString EmbeddedCatalog::accountPassword()
 {
-    return "demo";
+    return QString::fromStdString(devcatalog::demoAccount().password);
 }
 
 } // namespace devhost

@@ -1,5 +1,7 @@
 #include "tests/catalog/CatalogFixture.h"
 
+#include "dev/catalog/BuiltInOptions.h"
+
 #include <QtTest>
 
 #include <algorithm>
@@ -30,9 +32,10 @@ CatalogFixture::CatalogFixture()
 
 devcatalog::CatalogServerOptions CatalogFixture::options() const
 {
-    devcatalog::CatalogServerOptions result;
+    devcatalog::CatalogServerOptions result = devcatalog::builtInOptions();
+    result.serviceHost.clear();
+    result.port = 0;
     result.serviceAccount = {"partharbor", "PlotvaneSU", "Service & <Password>", "Plotvane"};
-    result.users = {{"demo@partharbor.example", "demo"}};
     result.certificateFolder = m_folder.filePath("certificates").toStdString();
     return result;
 }

@@ -1,5 +1,6 @@
 #include "tests/scenario/ScenarioFixture.h"
 
+#include "dev/catalog/BuiltInOptions.h"
 #include "tests/support/ScriptedCatalog.h"
 
 #include <QDir>
@@ -64,11 +65,9 @@ ScenarioFixture::~ScenarioFixture()
 
 devcatalog::CatalogServerOptions ScenarioFixture::options()
 {
-    devcatalog::CatalogServerOptions options;
+    devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
     options.serviceHost = ScriptedCatalog::host().toStdString();
-    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
-                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
-    options.users = {{"demo@partharbor.example", "demo"}};
+    options.port = 0;
     options.certificateFolder = m_certificateFolder.filePath("certificates").toStdString();
     options.beforeReply = [this](const devcatalog::HttpRequest& request, devcatalog::HttpReply&) {
         keepBack(request);
@@ -158,8 +157,9 @@ void ScenarioFixture::waitForReplies(const QString& content, int count)
 
 void ScenarioFixture::logIn()
 {
+    const devcatalog::UserAccount account = devcatalog::demoAccount();
     const int boxesBefore = m_answerer.boxes().size();
-    m_user.logIn("demo@partharbor.example", "demo");
+    m_user.logIn(QString::fromStdString(account.userId), QString::fromStdString(account.password));
     waitFor([=] { return m_answerer.boxes().size() > boxesBefore; });
 }
 
