@@ -1,6 +1,6 @@
 #include "bench/measuring/CatalogProcess.h"
 
-#include "dev/catalog/CatalogServer.h"
+#include "dev/catalog/BuiltInOptions.h"
 #include "dev/catalog/proxy/ConnectProxy.h"
 
 #include <QCoreApplication>
@@ -38,23 +38,20 @@ void record(const devcatalog::HttpRequest& request, const std::filesystem::path&
 {
     static std::mutex mutex;
     const std::lock_guard<std::mutex> lock(mutex);
-    const auto action = request.headers.find("soapaction");
-    if (action == request.headers.end())
+    if (request.operation().isEmpty())
         return;
-    const auto file = folder / action->second.substr(action->second.rfind('/') + 1);
+    const auto file = folder / request.operation().toStdString();
     if (!std::filesystem::exists(file))
-        std::ofstream(file, std::ios::binary) << request.path << '\n'
-                                              << action->second << '\n'
-                                              << request.body;
+        std::ofstream(file, std::ios::binary) << request.path().toStdString() << '\n'
+                                              << request.header("SOAPAction").toStdString() << '\n'
+                                              << request.body.toStdString();
 }
 
 devcatalog::CatalogServerOptions serverOptions(const Order& order)
 {
-    devcatalog::CatalogServerOptions options;
+    devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
     options.serviceHost = order.serviceHost;
-    options.serviceAccount = {PARTHARBOR_SERVICE_CATALOG, PARTHARBOR_SERVICE_USER,
-                              PARTHARBOR_SERVICE_PASSWORD, PARTHARBOR_SERVICE_ENDUSER};
-    options.users = {{CatalogProcess::User, CatalogProcess::Password}};
+    options.port = 0;
     options.certificateFolder = order.folder / "certificates";
     options.beforeReply = [order](const devcatalog::HttpRequest& request, const auto&) {
         record(request, order.folder);
@@ -82,9 +79,6 @@ void serve(const Order& order, int& argc, char** argv)
 }
 
 } // namespace
-
-const char* const CatalogProcess::User = "demo@partharbor.example";
-const char* const CatalogProcess::Password = "demo";
 
 CatalogProcess::CatalogProcess() = default;
 

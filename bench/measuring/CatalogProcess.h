@@ -22,10 +22,6 @@ struct RecordedPost {
 class CatalogProcess
 {
 public:
-    /// The account that can log in.
-    static const char* const User;
-    static const char* const Password;
-
     CatalogProcess();
     CatalogProcess(const CatalogProcess&) = delete;
     CatalogProcess& operator=(const CatalogProcess&) = delete;

@@ -1,6 +1,6 @@
 #include "bench/measuring/PaneRun.h"
 
-#include "bench/measuring/CatalogProcess.h"
+#include "dev/catalog/BuiltInOptions.h"
 
 #include <QDir>
 
@@ -51,7 +51,8 @@ StepTime PaneRun::connect()
 void PaneRun::logIn()
 {
     const int boxesBefore = m_application.boxTexts().size();
-    m_user.logIn(CatalogProcess::User, CatalogProcess::Password);
+    const devcatalog::UserAccount account = devcatalog::demoAccount();
+    m_user.logIn(QString::fromStdString(account.userId), QString::fromStdString(account.password));
     waitFor("the login", [=] { return m_application.boxTexts().size() > boxesBefore; });
     if (m_application.boxTexts().constLast() != "Login is successful.")
         giveUp(m_application.boxTexts().constLast());

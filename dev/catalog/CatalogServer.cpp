@@ -3,8 +3,8 @@
 #include "dev/catalog/CatalogSite.h"
 #include "dev/catalog/CertificateAuthority.h"
 #include "dev/catalog/CertificateFolder.h"
-#include "dev/catalog/HttpsListener.h"
 #include "dev/catalog/ServiceHost.h"
+#include "dev/catalog/https/HttpsListener.h"
 #include "dev/catalog/soap/SoapService.h"
 #include "dev/catalog/soap/XmlText.h"
 
@@ -52,7 +52,8 @@ public:
     {
         m_listener->serve([this, &server](const HttpRequest& request) {
             SoapReply reply = answer(request);
-            server.record({request.method, request.path, reply.operation, reply.http.status, reply.fault});
+            server.record({request.method.toStdString(), request.path().toStdString(), reply.operation,
+                           reply.http.status, reply.fault});
             if (server.m_options.beforeReply)
                 server.m_options.beforeReply(request, reply.http);
             return reply.http;
@@ -69,7 +70,8 @@ private:
         if (request.method == "POST")
             return m_soap->answer(request);
         const bool isRead = request.method == "GET" || request.method == "HEAD";
-        return {m_site.get(isRead ? request.path : ""), {}, {}};
+        const QByteArray path = isRead ? request.path().toUtf8() : QByteArray();
+        return {m_site.get(QByteArray::fromPercentEncoding(path).toStdString()), {}, {}};
     }
 
     PartCatalog m_catalog;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "dev/catalog/Accounts.h"
-#include "dev/catalog/HttpMessages.h"
+#include "dev/catalog/https/HttpReply.h"
+#include "dev/catalog/https/HttpRequest.h"
 
 #include <cstddef>
 #include <deque>
@@ -66,8 +67,8 @@ public:
     ///         line for a person to read.
     void start();
 
-    /// Answers the requests under way, then ends; a client that holds a connection open in silence delays
-    /// this by 5 seconds. Sessions, keys and tokens are forgotten.
+    /// Answers the requests under way, then ends; a client that does not take its reply delays this by 5
+    /// seconds. Sessions, keys and tokens are forgotten.
     void stop();
 
     /// @return the port that is served; 0 before start.

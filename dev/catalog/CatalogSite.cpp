@@ -2,9 +2,11 @@
 
 #include "dev/catalog/RandomText.h"
 #include "dev/catalog/drawings/PartDrawing.h"
+#include "dev/dwg/Writer.h"
 
 #include <algorithm>
 #include <charconv>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -56,7 +58,7 @@ std::string fileStem(const Part& part)
 
 } // namespace
 
-CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog)
+CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog), m_files(maxKeptBytes)
 {
 }
 
@@ -65,17 +67,25 @@ std::string CatalogSite::thumbnailPath(const Part& part) const
     return ThumbnailFolder + std::to_string(&part - m_catalog.parts().data()) + ThumbnailSuffix;
 }
 
-std::string CatalogSite::addDrawing(const Part& part, std::string dwg)
+std::string CatalogSite::addDrawing(const Part& part, const Configuration& configuration,
+                                    const std::string& view)
 {
+    const std::string key = part.supplier + '\n' + part.name + '\n' + configuration.name + '\n' + view;
+    const FileCache::File dwg = m_files.get(key, [&] {
+        const std::optional<dwg::Drawing> drawn = drawPart(part, configuration, view);
+        return drawn ? dwg::writeDwg(*drawn) : std::string();
+    });
+    if (dwg->empty())
+        return {};
     std::string path = DrawingFolder + randomHex(16) + "/" + fileStem(part) + ".dwg";
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_drawings.push_front({path, std::move(dwg)});
-    if (m_drawings.size() > maxDrawings)
-        m_drawings.pop_back();
+    m_downloads.push_front({path, dwg});
+    if (m_downloads.size() > maxDrawings)
+        m_downloads.pop_back();
     return path;
 }
 
-HttpReply CatalogSite::get(const std::string& path) const
+HttpReply CatalogSite::get(const std::string& path)
 {
     std::string file = path.substr(std::min<std::size_t>(1, path.size()));
     if (beginsWith(file, ThumbnailFolder))
@@ -98,22 +108,24 @@ HttpReply CatalogSite::get(const std::string& path) const
     return notFound();
 }
 
-HttpReply CatalogSite::thumbnail(const std::string& name) const
+HttpReply CatalogSite::thumbnail(const std::string& name)
 {
     const std::vector<Part>& parts = m_catalog.parts();
     std::size_t index = parts.size();
     std::from_chars(name.data(), name.data() + name.size(), index);
     if (index >= parts.size() || name != std::to_string(index) + ThumbnailSuffix)
         return notFound();
-    return {200, "image/png", drawThumbnail(parts[index], thumbnailSize, thumbnailSize)};
+    const FileCache::File picture =
+        m_files.get(name, [&] { return drawThumbnail(parts[index], thumbnailSize, thumbnailSize); });
+    return {200, "image/png", *picture};
 }
 
-HttpReply CatalogSite::drawing(const std::string& path) const
+HttpReply CatalogSite::drawing(const std::string& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto found = std::find_if(m_drawings.begin(), m_drawings.end(),
-                                    [&path](const StoredDrawing& stored) { return stored.path == path; });
-    return found == m_drawings.end() ? notFound() : HttpReply{200, "image/vnd.dwg", found->dwg};
+    const auto found = std::find_if(m_downloads.begin(), m_downloads.end(),
+                                    [&path](const Download& download) { return download.path == path; });
+    return found == m_downloads.end() ? notFound() : HttpReply{200, "image/vnd.dwg", *found->dwg};
 }
 
 } // namespace devcatalog

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "dev/catalog/HttpMessages.h"
+#include "dev/catalog/FileCache.h"
+#include "dev/catalog/https/HttpReply.h"
 #include "dev/catalog/parts/PartCatalog.h"
 
 #include <cstddef>
@@ -26,29 +27,33 @@ public:
     /// @param part one of the catalog's own.
     std::string thumbnailPath(const Part& part) const;
 
-    /// Keeps a drawing for download; the oldest of many goes.
+    /// Makes a drawing and keeps it for download; the oldest of many addresses goes.
     /// @param part names the file.
-    /// @return its address, relative to the site and without a leading slash.
-    std::string addDrawing(const Part& part, std::string dwg);
+    /// @param view wire name.
+    /// @return its address, relative to the site and without a leading slash; empty when the part has no such
+    /// view.
+    std::string addDrawing(const Part& part, const Configuration& configuration, const std::string& view);
 
     /// @param path begins with "/"; query and fragment are gone.
     /// @return the file with status 200; a page that says so with status 404 when there is none.
-    HttpReply get(const std::string& path) const;
+    HttpReply get(const std::string& path);
 
 private:
     static constexpr std::size_t maxDrawings = 64;
+    static constexpr std::size_t maxKeptBytes = std::size_t{64} << 20U;
 
-    struct StoredDrawing {
+    struct Download {
         std::string path;
-        std::string dwg;
+        FileCache::File dwg;
     };
 
-    HttpReply thumbnail(const std::string& name) const;
-    HttpReply drawing(const std::string& path) const;
+    HttpReply thumbnail(const std::string& name);
+    HttpReply drawing(const std::string& path);
 
     const PartCatalog& m_catalog;
-    mutable std::mutex m_mutex;
-    std::deque<StoredDrawing> m_drawings; ///< newest first
+    FileCache m_files; ///< pictures by their names, and drawings
+    std::mutex m_mutex;
+    std::deque<Download> m_downloads; ///< newest first
 };
 
 } // namespace devcatalog

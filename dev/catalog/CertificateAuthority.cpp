@@ -5,13 +5,16 @@
 #include <openssl/bio.h>
 #include <openssl/ec.h>
 #include <openssl/err.h>
+#include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/rand.h>
+#include <openssl/x509.h>
 #include <openssl/x509v3.h>
 
 #include <array>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -28,6 +31,19 @@ namespace
 constexpr long Day = 24L * 60 * 60;
 constexpr long AuthorityLifetime = 3650 * Day;
 constexpr long ServerLifetime = 365 * Day;
+
+struct OpenSslDeleter {
+    void operator()(X509* certificate) const { X509_free(certificate); }
+    void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
+};
+using CertificatePointer = std::unique_ptr<X509, OpenSslDeleter>;
+using KeyPointer = std::unique_ptr<EVP_PKEY, OpenSslDeleter>;
+
+/// A certificate with its private key.
+struct Identity {
+    CertificatePointer certificate;
+    KeyPointer key;
+};
 
 struct BioDeleter {
     void operator()(BIO* bio) const { BIO_free(bio); }
@@ -173,6 +189,14 @@ std::runtime_error cannotWrite(const fs::path& path)
     return std::runtime_error("Certificates: cannot write " + path.string() + ".");
 }
 
+Identity requireIdentity(const fs::path& path)
+{
+    Identity identity = parseIdentity(readFile(path));
+    if (!identity.certificate)
+        throw std::runtime_error("Certificates: cannot use " + path.string() + ".");
+    return identity;
+}
+
 /// Writes a file under a name of its own beside the wanted one, to be moved there whole.
 fs::path writeBeside(const fs::path& path, const std::string& text, fs::perms permissions)
 {
@@ -210,10 +234,7 @@ CertificateAuthority::CertificateAuthority(fs::path folder, std::time_t now)
             fs::remove(keyFile());
             create();
         }
-        m_identity = parseIdentity(readFile(keyFile()));
-        if (!m_identity.certificate)
-            throw cannotWrite(keyFile());
-        const std::string pem = certificatePem(m_identity);
+        const std::string pem = certificatePem(requireIdentity(keyFile()));
         if (readFile(caFile()) != pem) {
             const fs::perms readable = fs::perms::owner_read | fs::perms::owner_write |
                                        fs::perms::group_read | fs::perms::others_read;
@@ -251,18 +272,21 @@ void CertificateAuthority::create() const
     fs::remove(temporary);
 }
 
-Identity CertificateAuthority::issue(const std::string& hostName) const
+ServerIdentity CertificateAuthority::issue(const std::string& hostName) const
 {
+    const Identity authority = requireIdentity(keyFile());
     KeyPointer key = makeKey();
     CertificatePointer certificate =
-        makeCertificate(hostName.substr(0, 64), key.get(), m_now, ServerLifetime, &m_identity,
+        makeCertificate(hostName.substr(0, 64), key.get(), m_now, ServerLifetime, &authority,
                         {{NID_basic_constraints, "critical,CA:FALSE"},
                          {NID_key_usage, "critical,digitalSignature"},
                          {NID_ext_key_usage, "serverAuth"},
                          {NID_subject_key_identifier, "hash"},
                          {NID_authority_key_identifier, "keyid:always"},
                          {NID_subject_alt_name, serverNames(hostName)}});
-    return {std::move(certificate), std::move(key)};
+    const Identity issued{std::move(certificate), std::move(key)};
+    return {QSslCertificate(QByteArray::fromStdString(certificatePem(issued))),
+            QSslKey(QByteArray::fromStdString(keyPem(issued)), QSsl::Ec)};
 }
 
 } // namespace devcatalog

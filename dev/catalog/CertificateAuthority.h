@@ -1,28 +1,13 @@
 #pragma once
 
-#include <openssl/evp.h>
-#include <openssl/x509.h>
+#include "dev/catalog/https/ServerIdentity.h"
 
 #include <ctime>
 #include <filesystem>
-#include <memory>
 #include <string>
 
 namespace devcatalog
 {
-
-struct OpenSslDeleter {
-    void operator()(X509* certificate) const { X509_free(certificate); }
-    void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
-};
-using CertificatePointer = std::unique_ptr<X509, OpenSslDeleter>;
-using KeyPointer = std::unique_ptr<EVP_PKEY, OpenSslDeleter>;
-
-/// A certificate with its private key.
-struct Identity {
-    CertificatePointer certificate;
-    KeyPointer key;
-};
 
 /// The development catalog's own certificate authority. It is made at first use and kept in a folder, so that
 /// whoever trusts it once need not do so again. Server certificates are issued in memory at each start and
@@ -43,7 +28,7 @@ public:
     /// Issues a certificate, valid for a year, for a host and for this machine's own names.
     /// @param hostName a name or number, without port or brackets.
     /// @throws std::runtime_error when the name cannot stand in a certificate.
-    Identity issue(const std::string& hostName) const;
+    ServerIdentity issue(const std::string& hostName) const;
 
 private:
     std::filesystem::path keyFile() const;
@@ -51,7 +36,6 @@ private:
 
     std::filesystem::path m_folder;
     std::time_t m_now;
-    Identity m_identity;
 };
 
 } // namespace devcatalog

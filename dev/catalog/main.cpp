@@ -2,8 +2,9 @@
 
 #include "dev/catalog/BuiltInOptions.h"
 
+#include <QCoreApplication>
+
 #include <exception>
-#include <future>
 #include <iostream>
 #include <stdexcept>
 #include <string>
@@ -59,15 +60,14 @@ int run(const std::vector<std::string>& arguments)
               << server.port() << " of 127.0.0.1.\nIts certificate authority: " << server.caFile().string()
               << "\nLog in as " << options.users.front().userId << ", password "
               << options.users.front().password << "." << std::endl;
-    std::promise<void> never; // a signal ends the program; it holds nothing that would be lost
-    never.get_future().wait();
-    return 0;
+    return QCoreApplication::exec(); // a signal ends the program; it holds nothing that would be lost
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    const QCoreApplication application(argc, argv);
     try {
         return run({argv + 1, argv + argc});
     } catch (const std::exception& error) {

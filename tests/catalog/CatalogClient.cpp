@@ -1,6 +1,7 @@
 #include "tests/catalog/CatalogClient.h"
 
 #include <QDomDocument>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSslSocket>
 
@@ -31,17 +32,44 @@ HttpAnswer parseAnswer(const QByteArray& bytes)
 
 } // namespace
 
-void SoapRequest::setHeader(const QByteArray& name, const QByteArray& value)
+QVector<QByteArray> SoapRequest::elements() const
 {
-    removeHeader(name);
-    headers.append({name, value});
+    static const QRegularExpression element("<(\\w+)>[^<]*</\\1>");
+    QVector<QByteArray> names;
+    for (auto found = element.globalMatch(body); found.hasNext();)
+        names.append(found.next().captured(1).toUtf8());
+    return names;
 }
 
-void SoapRequest::removeHeader(const QByteArray& name)
+QByteArray SoapRequest::element(const QByteArray& name) const
 {
-    headers.erase(std::remove_if(headers.begin(), headers.end(),
-                                 [&name](const auto& header) { return header.first == name; }),
-                  headers.end());
+    const QRegularExpression element("<" + name + ">[^<]*</" + name + ">");
+    return element.match(body).captured().toUtf8();
+}
+
+SoapRequest SoapRequest::with(const QByteArray& name, const QByteArray& text) const
+{
+    const QByteArray escaped = QString::fromUtf8(text).toHtmlEscaped().toUtf8();
+    return replaced(element(name), "<" + name + ">" + escaped + "</" + name + ">");
+}
+
+SoapRequest SoapRequest::replaced(const QByteArray& part, const QByteArray& other) const
+{
+    Q_ASSERT(body.contains(part));
+    SoapRequest request = *this;
+    request.body.replace(part, other);
+    return request;
+}
+
+SoapRequest SoapRequest::withHeader(const QByteArray& name, const QByteArray& value) const
+{
+    SoapRequest request = *this;
+    const auto isNamed = [&name](const auto& header) { return header.first == name; };
+    auto& all = request.headers;
+    all.erase(std::remove_if(all.begin(), all.end(), isNamed), all.end());
+    if (!value.isNull())
+        all.append({name, value});
+    return request;
 }
 
 QByteArray SoapRequest::toHttp() const

@@ -9,14 +9,24 @@
 namespace test
 {
 
-/// A posted request as it goes over the wire. A test takes a right one and changes what it wants.
+/// A posted request as it goes over the wire. A test takes a valid one and changes what it wants.
 struct SoapRequest {
+    QByteArray operation;
     QByteArray path;
     QVector<QPair<QByteArray, QByteArray>> headers; ///< Content-Length is added
     QByteArray body;
 
-    void setHeader(const QByteArray& name, const QByteArray& value);
-    void removeHeader(const QByteArray& name);
+    /// The names of the operation's elements, in order.
+    QVector<QByteArray> elements() const;
+    /// An element of the operation with its tags.
+    QByteArray element(const QByteArray& name) const;
+    /// @return the same with another text in an element.
+    SoapRequest with(const QByteArray& element, const QByteArray& text) const;
+    /// @return the same with other bytes in the body; they must occur.
+    SoapRequest replaced(const QByteArray& part, const QByteArray& other) const;
+    /// @return the same with another header, or without it when the value is null.
+    SoapRequest withHeader(const QByteArray& name, const QByteArray& value) const;
+
     QByteArray toHttp() const;
 };
 

@@ -2,6 +2,7 @@
 
 #include "dev/catalog/BuiltInOptions.h"
 
+#include <QFile>
 #include <QtTest>
 
 #include <algorithm>
@@ -9,12 +10,38 @@
 namespace test
 {
 
+namespace
+{
+
+struct Template {
+    const char* operation;
+    const char* file;
+    const char* endpoint;
+};
+
+constexpr Template Templates[] = {
+    {"ServiceLogin", "TokenXMLFile", "contentws"},
+    {"GenerateApiKeyByDescription", "APIKeyXML", "adminws"},
+    {"UserLogin", "Login", "ExternalWS"},
+    {"SimpleSearchAcrossCatalogs", "Searchcatalog", "ExternalWS"},
+    {"GetConfigInfo", "ConfigInfo", "ExternalWS"},
+    {"GetConfigParams", "ConfigParams", "ExternalWS"},
+    {"GetDownload2D", "download", "ExternalWS"},
+};
+
+QByteArray bytes(const std::string& text)
+{
+    return QByteArray::fromStdString(text);
+}
+
+} // namespace
+
 CatalogFixture::CatalogFixture()
 {
     devcatalog::CatalogServerOptions withLog = options();
     withLog.log = [this](const std::string& line) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_log += QByteArray::fromStdString(line) + '\n';
+        m_log += bytes(line) + '\n';
     };
     m_server = std::make_unique<devcatalog::CatalogServer>(withLog);
     m_server->start();
@@ -22,12 +49,18 @@ CatalogFixture::CatalogFixture()
                                                QString::fromStdString(m_server->caFile().string()));
 
     const devcatalog::Part& part = m_catalog.parts().front();
-    m_values.supplier = QByteArray::fromStdString(part.supplier);
-    m_values.model = QByteArray::fromStdString(part.name);
-    m_values.configuration = QByteArray::fromStdString(part.configurations.front().name);
-    m_values.sessionId = carriedOut(form("ServiceLogin")).toUtf8();
-    m_values.apiKey = carriedOut(form("GenerateApiKeyByDescription")).toUtf8();
-    m_values.userToken = carriedOut(form("UserLogin")).toUtf8();
+    m_values = {{"searchTerm", bytes(part.name)},
+                {"pageNumber", "1"},
+                {"supplierName", bytes(part.supplier)},
+                {"modelName", bytes(part.name)},
+                {"configName", bytes(part.configurations.front().name)},
+                {"version", "R2002"},
+                {"units", "cm"},
+                {"inputParameters", ""},
+                {"drawingView", "eDrawingView_FRONT"}};
+    m_values["sessionId"] = carriedOut(request("ServiceLogin")).toUtf8();
+    m_values["apiKey"] = carriedOut(request("GenerateApiKeyByDescription")).toUtf8();
+    m_values["userToken"] = carriedOut(request("UserLogin")).toUtf8();
 }
 
 devcatalog::CatalogServerOptions CatalogFixture::options() const
@@ -35,39 +68,57 @@ devcatalog::CatalogServerOptions CatalogFixture::options() const
     devcatalog::CatalogServerOptions result = devcatalog::builtInOptions();
     result.serviceHost.clear();
     result.port = 0;
-    result.serviceAccount = {"partharbor", "PlotvaneSU", "Service & <Password>", "Plotvane"};
+    result.serviceAccount.password = "Service & <Password>";
     result.certificateFolder = m_folder.filePath("certificates").toStdString();
     return result;
 }
 
-QByteArray CatalogFixture::serviceHost() const
+QVector<QByteArray> CatalogFixture::operations()
 {
-    return QByteArray::fromStdString(m_server->serviceHost());
+    QVector<QByteArray> names;
+    for (const Template& each : Templates)
+        names.append(each.operation);
+    return names;
 }
 
-RightForm CatalogFixture::form(const QByteArray& operation) const
+SoapRequest CatalogFixture::request(const QByteArray& operation) const
 {
-    const QVector<RightForm> forms = rightForms(m_values);
-    const auto found = std::find_if(forms.begin(), forms.end(), [&operation](const RightForm& one) {
-        return one.operation == operation;
-    });
-    Q_ASSERT(found != forms.end());
-    return *found;
+    const Template& found = *std::find_if(std::begin(Templates), std::end(Templates),
+                                          [&](const Template& each) { return each.operation == operation; });
+    QFile file(QString(REQUEST_TEMPLATES "/%1.xml.in").arg(found.file));
+    if (!file.open(QIODevice::ReadOnly))
+        qCritical("There is no %s", qPrintable(file.fileName()));
+    const QByteArray host = bytes(m_server->serviceHost());
+    SoapRequest request{operation,
+                        QByteArray("/ContentWS/") + found.endpoint + ".asmx",
+                        {{"Content-Type", "text/xml; charset=utf-8"},
+                         {"SOAPAction", "http://" + host + "/Content/" + operation}},
+                        file.readAll().replace("@PARTHARBOR_SERVICE_HOST@", host)};
+    QHash<QByteArray, QByteArray> values = m_values;
+    if (operation == "ServiceLogin") {
+        const devcatalog::ServiceAccount account = options().serviceAccount;
+        values = {{"catalog", bytes(account.catalog)},
+                  {"serviceuser", bytes(account.user)},
+                  {"password", bytes(account.password)},
+                  {"enduser", bytes(account.endUser)}};
+    } else if (operation == "UserLogin") {
+        values["userId"] = bytes(devcatalog::demoAccount().userId);
+        values["password"] = bytes(devcatalog::demoAccount().password);
+    }
+    for (const QByteArray& element : request.elements())
+        if (values.contains(element))
+            request = request.with(element, values.value(element));
+    return request;
 }
 
-HttpAnswer CatalogFixture::post(const RightForm& form) const
+QString CatalogFixture::carriedOut(const SoapRequest& request) const
 {
-    return m_client->post(form.request(serviceHost()));
-}
-
-QString CatalogFixture::carriedOut(const RightForm& form) const
-{
-    const HttpAnswer answer = post(form);
+    const HttpAnswer answer = post(request);
     if (answer.status != 200 || answer.contentType != "text/xml; charset=utf-8") {
-        QTest::qFail(form.operation + ": " + answer.text("faultstring").toUtf8(), __FILE__, __LINE__);
+        QTest::qFail(request.operation + ": " + answer.text("faultstring").toUtf8(), __FILE__, __LINE__);
         return {};
     }
-    return answer.text(form.operation + "Result");
+    return answer.text(request.operation + "Result");
 }
 
 QByteArray CatalogFixture::log() const

@@ -3,8 +3,8 @@
 #include "dev/catalog/CatalogServer.h"
 #include "dev/catalog/parts/PartCatalog.h"
 #include "tests/catalog/CatalogClient.h"
-#include "tests/catalog/ValidRequests.h"
 
+#include <QHash>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -27,19 +27,19 @@ public:
     devcatalog::CatalogServer& server() { return *m_server; }
     const CatalogClient& client() const { return *m_client; }
 
-    /// The client's session, and the catalog's first part.
-    const ClientValues& values() const { return m_values; }
+    /// What the client puts into a request's element: of its session, and of the catalog's first part.
+    QByteArray value(const QByteArray& element) const { return m_values.value(element); }
 
-    QByteArray serviceHost() const;
+    /// The operations in the order in which a client sends them.
+    static QVector<QByteArray> operations();
 
-    /// The right form of an operation.
-    RightForm form(const QByteArray& operation) const;
-    SoapRequest request(const QByteArray& operation) const { return form(operation).request(serviceHost()); }
+    /// A valid request, made from the add-in's own template.
+    SoapRequest request(const QByteArray& operation) const;
 
-    HttpAnswer post(const RightForm& form) const;
+    HttpAnswer post(const SoapRequest& request) const { return m_client->post(request); }
 
     /// @return the text of the result; null, and a failed test, when the request was refused.
-    QString carriedOut(const RightForm& form) const;
+    QString carriedOut(const SoapRequest& request) const;
 
     /// All lines of the server's log, each ended.
     QByteArray log() const;
@@ -51,7 +51,7 @@ private:
     QByteArray m_log;
     std::unique_ptr<devcatalog::CatalogServer> m_server;
     std::unique_ptr<CatalogClient> m_client;
-    ClientValues m_values;
+    QHash<QByteArray, QByteArray> m_values;
 };
 
 } // namespace test

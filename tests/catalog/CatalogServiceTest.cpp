@@ -1,6 +1,8 @@
 #include "dev/catalog/CatalogSite.h"
+#include "dev/catalog/FileCache.h"
 #include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/catalog/soap/WireContract.h"
+#include "dev/dwg/Writer.h"
 #include "tests/catalog/CatalogFixture.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -11,14 +13,16 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <atomic>
+#include <future>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 using devcatalog::CatalogServer;
 using devcatalog::CatalogServerOptions;
 using test::HttpAnswer;
-using test::RightForm;
 using test::SoapRequest;
 
 namespace
@@ -57,9 +61,10 @@ private slots:
     void wrongCredentialsGiveAnEmptyToken();
     void searchesComeInPages_data();
     void searchesComeInPages();
-    void everyViewIsDrawnOrEmpty();
     void drawingsAreKeptForDownload();
-    void requestsAtTheSameTime();
+    void drawingsHaveSafeNames();
+    void filesAreMadeOnceAndKept();
+    void nobodyWaitsForAnother();
     void pages();
     void theRequestLogTellsNoSecrets();
     void aTakenPortIsNamed();
@@ -73,28 +78,28 @@ private:
 void CatalogServiceTest::everyOperationIsCarriedOut()
 {
     const devcatalog::Part& part = m_fixture->catalog().parts().front();
-    const test::ClientValues& values = m_fixture->values();
-    QVERIFY(QRegularExpression("^[0-9a-f]{32}$").match(values.apiKey).hasMatch());
-    QVERIFY(values.apiKey != values.sessionId && values.apiKey != values.userToken);
+    const QByteArray key = m_fixture->value("apiKey");
+    QVERIFY(QRegularExpression("^[0-9a-f]{32}$").match(key).hasMatch());
+    QVERIFY(key != m_fixture->value("sessionId") && key != m_fixture->value("userToken"));
 
-    const HttpAnswer found = m_fixture->post(m_fixture->form("SimpleSearchAcrossCatalogs"));
+    const HttpAnswer found = m_fixture->post(m_fixture->request("SimpleSearchAcrossCatalogs"));
     QCOMPARE(found.text("ActualItemCount").toInt(), int(m_fixture->catalog().search(part.name).size()));
     const QDomElement item = elements(found, "ISearchItem").value(0);
     QVERIFY(item.childNodes().count() >= 17);
-    QCOMPARE(child(item, 0), " " + QString::fromUtf8(values.model));
+    QCOMPARE(child(item, 0), " " + QString::fromUtf8(m_fixture->value("modelName")));
     QCOMPARE(child(item, 6), QString::fromStdString(part.description));
     const HttpAnswer picture = m_fixture->client().get("/" + child(item, 7));
     QCOMPARE(picture.contentType, QByteArray("image/png"));
     QCOMPARE(QImage::fromData(picture.body, "PNG").size(), QSize(256, 256));
-    QCOMPARE(child(item, 16), QString::fromUtf8(values.supplier));
+    QCOMPARE(child(item, 16), QString::fromUtf8(m_fixture->value("supplierName")));
 
     const QVector<QDomElement> configurations =
-        elements(m_fixture->post(m_fixture->form("GetConfigInfo")), "IConfiguration");
+        elements(m_fixture->post(m_fixture->request("GetConfigInfo")), "IConfiguration");
     QCOMPARE(configurations.size(), int(part.configurations.size()));
-    QCOMPARE(child(configurations.first(), 0), QString::fromUtf8(values.configuration));
+    QCOMPARE(child(configurations.first(), 0), QString::fromUtf8(m_fixture->value("configName")));
 
     const QVector<QDomElement> parameters =
-        elements(m_fixture->post(m_fixture->form("GetConfigParams")), "IInputParameter");
+        elements(m_fixture->post(m_fixture->request("GetConfigParams")), "IInputParameter");
     QCOMPARE(parameters.size(), int(part.configurations.front().parameters.size()));
     for (int index = 0; index < parameters.size(); ++index) {
         const devcatalog::Parameter& expected = part.configurations.front().parameters.at(std::size_t(index));
@@ -107,13 +112,10 @@ void CatalogServiceTest::everyOperationIsCarriedOut()
 
 void CatalogServiceTest::wrongCredentialsGiveAnEmptyToken()
 {
-    for (const char* element : {"userId", "password"}) {
-        for (const QByteArray& value : {QByteArray("Demo"), QByteArray()}) {
-            RightForm login = m_fixture->form("UserLogin");
-            login.value(element) = value;
-            QCOMPARE(m_fixture->carriedOut(login), QString(""));
-        }
-    }
+    const SoapRequest login = m_fixture->request("UserLogin");
+    for (const char* element : {"userId", "password"})
+        for (const QByteArray& text : {QByteArray("Demo"), QByteArray()})
+            QCOMPARE(m_fixture->carriedOut(login.with(element, text)), QString(""));
 }
 
 void CatalogServiceTest::searchesComeInPages_data()
@@ -126,17 +128,15 @@ void CatalogServiceTest::searchesComeInPages_data()
 void CatalogServiceTest::searchesComeInPages()
 {
     QFETCH(QByteArray, page);
-    const QByteArray term = QString::fromUtf8(m_fixture->values().supplier).section(' ', 0, 0).toUtf8();
+    const QByteArray term = QString::fromUtf8(m_fixture->value("supplierName")).section(' ', 0, 0).toUtf8();
     const std::vector<const devcatalog::Part*> hits = m_fixture->catalog().search(term.toStdString());
     const int count = int(hits.size());
     QVERIFY2(count > 5, "the term must have more than one page");
     const int last = (count + 4) / 5;
     page.replace("last", QByteArray::number(last)).replace("beyond", QByteArray::number(last + 1));
 
-    RightForm search = m_fixture->form("SimpleSearchAcrossCatalogs");
-    search.value("searchTerm") = term;
-    search.value("pageNumber") = page;
-    const HttpAnswer answer = m_fixture->post(search);
+    const SoapRequest search = m_fixture->request("SimpleSearchAcrossCatalogs");
+    const HttpAnswer answer = m_fixture->post(search.with("searchTerm", term).with("pageNumber", page));
     QCOMPARE(answer.text("ActualItemCount").toInt(), count);
 
     const int number = page.toInt();
@@ -149,66 +149,110 @@ void CatalogServiceTest::searchesComeInPages()
     }
 }
 
-void CatalogServiceTest::everyViewIsDrawnOrEmpty()
-{
-    const devcatalog::Part& part = m_fixture->catalog().parts().front();
-    for (const std::string_view view : devcatalog::DrawingViews) {
-        RightForm download = m_fixture->form("GetDownload2D");
-        download.value("drawingView") = QByteArray(view.data(), int(view.size()));
-        const bool isSupported = drawPart(part, part.configurations.front(), view).has_value();
-        QCOMPARE(!m_fixture->carriedOut(download).isEmpty(), isSupported);
-    }
-}
-
 void CatalogServiceTest::drawingsAreKeptForDownload()
 {
     const test::CatalogClient& client = m_fixture->client();
-    const QString address = m_fixture->carriedOut(m_fixture->form("GetDownload2D"));
-    QVERIFY2(address.startsWith(client.address("/")), qPrintable(address));
-    const QString path = QUrl(address).path();
-    const HttpAnswer drawing = client.get(path);
-    QVERIFY(drawing.body.startsWith("AC1015"));
-    QCOMPARE(client.get(path).body, drawing.body);
-    QCOMPARE(client.get(path.chopped(1)).status, 404);
+    const SoapRequest right = m_fixture->request("GetDownload2D");
+    const devcatalog::Part& part = m_fixture->catalog().parts().front();
+    for (const std::string_view view : devcatalog::DrawingViews) {
+        const QString address =
+            m_fixture->carriedOut(right.with("drawingView", QByteArray(view.data(), int(view.size()))));
+        const auto drawn = drawPart(part, part.configurations.front(), view);
+        QCOMPARE(!address.isEmpty(), drawn.has_value());
+        if (!drawn)
+            continue;
+        QVERIFY2(address.startsWith(client.address("/")), qPrintable(address));
+        const QString path = QUrl(address).path();
+        QCOMPARE(client.get(path).body, QByteArray::fromStdString(dwg::writeDwg(*drawn)));
+        QCOMPARE(client.get(path.chopped(1)).status, 404);
+    }
+}
 
+/// A file name that every system takes, after which clients put a number of their own.
+void CatalogServiceTest::drawingsHaveSafeNames()
+{
     devcatalog::CatalogSite site(m_fixture->catalog());
-    devcatalog::Part part;
-    part.family = "gear";
-    const QRegularExpression safe("^Downloads/[0-9a-f]{16}/[A-Za-z0-9][A-Za-z0-9_-]{0,59}\\.dwg$");
-    const std::string longName(300, 'x');
-    for (const char* name : {"../../etc/passwd", "\u6b6f\u8eca", " -a&b\"<c>%\r\n", longName.c_str()}) {
+    devcatalog::Part part = m_fixture->catalog().parts().front();
+    const devcatalog::Configuration configuration = part.configurations.front();
+    const std::string view = "eDrawingView_FRONT";
+    const QRegularExpression safe("^Downloads/[0-9a-f]{16}/[A-Za-z0-9][A-Za-z0-9_-]{0,58}[A-Za-z_]\\.dwg$");
+    const std::string longName(300, '5');
+    for (const char* name :
+         {"Hex bolt M5", "../../etc/passwd", "\u6b6f\u8eca", " -a&b\"<c>%\r\n", longName.c_str()}) {
         part.name = name;
-        const std::string file = site.addDrawing(part, "drawing");
+        const std::string file = site.addDrawing(part, configuration, view);
         QVERIFY2(safe.match(QString::fromStdString(file)).hasMatch(), file.c_str());
     }
-    const std::string oldest = "/" + site.addDrawing(part, "oldest");
+    const std::string oldest = "/" + site.addDrawing(part, configuration, view);
     for (int later = 0; later < 10; ++later)
-        site.addDrawing(part, "later");
-    QCOMPARE(site.get(oldest).body, std::string("oldest"));
-    for (int later = 0; later < 1000; ++later)
-        site.addDrawing(part, "later");
+        site.addDrawing(part, configuration, view);
+    QCOMPARE(site.get(oldest).status, 200);
+    for (int later = 0; later < 100; ++later)
+        site.addDrawing(part, configuration, view);
     QCOMPARE(site.get(oldest).status, 404);
 }
 
-void CatalogServiceTest::requestsAtTheSameTime()
+/// A file is made once for all who ask at the same time, and meanwhile nobody else waits.
+void CatalogServiceTest::filesAreMadeOnceAndKept()
 {
-    constexpr int count = 60;
+    devcatalog::FileCache cache(100);
+    std::atomic<int> made{0};
+    std::promise<void> begun;
+    std::promise<void> mayEnd;
+    const auto make = [&] {
+        if (++made == 1)
+            begun.set_value();
+        mayEnd.get_future().wait();
+        return std::string(40, 'a');
+    };
+    auto first = std::async(std::launch::async, [&] { return cache.get("slow", make); });
+    begun.get_future().wait();
+    auto second = std::async(std::launch::async, [&] { return cache.get("slow", make); });
+    const auto quick = [] { return std::string(40, 'b'); };
+    QCOMPARE(*cache.get("quick", quick), std::string(40, 'b'));
+    mayEnd.set_value();
+    const auto slow = first.get();
+    QCOMPARE(second.get(), slow);
+    QCOMPARE(made.load(), 1);
+
+    const auto fail = []() -> std::string { throw std::runtime_error("no"); };
+    QCOMPARE(cache.get("slow", fail), slow);
+    QVERIFY_EXCEPTION_THROWN(cache.get("bad", fail), std::runtime_error);
+    const auto bad = cache.get("bad", quick); // after all; the one not asked for the longest must go
+    QCOMPARE(cache.get("bad", fail), bad);
+    QCOMPARE(cache.get("slow", fail), slow);
+    QVERIFY_EXCEPTION_THROWN(cache.get("quick", fail), std::runtime_error);
+}
+
+/// As many as ten clients have open at a time wait for one slow part; who wants something else does not.
+void CatalogServiceTest::nobodyWaitsForAnother()
+{
+    std::promise<void> mayGo;
+    const std::shared_future<void> released = mayGo.get_future().share();
+    CatalogServerOptions options = m_fixture->options();
+    options.beforeReply = [released](const devcatalog::HttpRequest& request, devcatalog::HttpReply&) {
+        if (request.path().startsWith("/Thumbnails/"))
+            released.wait();
+    };
+    CatalogServer server(options);
+    server.start();
+    const test::CatalogClient client(server.port(), QString::fromStdString(server.caFile().string()));
+
+    constexpr int count = 50;
     QNetworkAccessManager managers[count];
     QVector<QNetworkReply*> replies;
-    const RightForm forms[] = {m_fixture->form("SimpleSearchAcrossCatalogs"),
-                               m_fixture->form("GetDownload2D"), m_fixture->form("UserLogin")};
-    for (int index = 0; index < count; ++index) {
-        const SoapRequest soap = forms[index % 3].request(m_fixture->serviceHost());
-        QNetworkRequest request{QUrl(m_fixture->client().address(soap.path))};
-        request.setSslConfiguration(m_fixture->client().tls());
-        for (const auto& [name, value] : soap.headers)
-            request.setRawHeader(name, value);
-        replies.append(managers[index].post(request, soap.body));
+    for (QNetworkAccessManager& manager : managers) {
+        QNetworkRequest request(QUrl(client.address("/Thumbnails/0.png")));
+        request.setSslConfiguration(client.tls());
+        replies.append(manager.get(request));
     }
-    for (int index = 0; index < count; ++index) {
-        QTRY_VERIFY_WITH_TIMEOUT(replies.at(index)->isFinished(), 20000);
-        QCOMPARE(replies.at(index)->error(), QNetworkReply::NoError);
-        QVERIFY(replies.at(index)->readAll().contains(forms[index % 3].operation + "Result>"));
+    QTRY_COMPARE_WITH_TIMEOUT(server.requests().size(), std::size_t(count), 20000);
+    QCOMPARE(client.get("/Login.aspx").status, 200);
+    mayGo.set_value();
+    for (QNetworkReply* reply : replies) {
+        QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 20000);
+        QCOMPARE(reply->error(), QNetworkReply::NoError);
+        QVERIFY(!QImage::fromData(reply->readAll()).isNull());
     }
 }
 
@@ -219,9 +263,8 @@ void CatalogServiceTest::pages()
         QCOMPARE(answer.status, 200);
         QVERIFY2(answer.body.contains("development catalog"), path);
     }
-    for (const char* path :
-         {"/", "/ContentWS/ExternalWS.asmx", "/Thumbnails/", "/Thumbnails/00.png", "/Thumbnails/-1.png",
-          "/Thumbnails/999999.png", "/Thumbnails/../Login.aspx", "/Downloads/", "/%00", "/%0d%0aX:%20y"}) {
+    for (const char* path : {"/", "/Thumbnails/", "/Thumbnails/00.png", "/Thumbnails/-1.png",
+                             "/Thumbnails/999999.png", "/Downloads/", "/%00", "/%0d%0aX:%20y"}) {
         const HttpAnswer answer = m_fixture->client().get(path);
         QVERIFY2(answer.status == 404, path);
         QVERIFY2(answer.body.contains("nothing at this address"), path);
@@ -231,10 +274,9 @@ void CatalogServiceTest::pages()
 void CatalogServiceTest::theRequestLogTellsNoSecrets()
 {
     const auto before = m_fixture->server().requests().size();
-    m_fixture->carriedOut(m_fixture->form("UserLogin"));
-    RightForm wrong = m_fixture->form("GetDownload2D");
-    wrong.value("drawingView") = m_fixture->values().userToken;
-    QCOMPARE(m_fixture->post(wrong).status, 500);
+    m_fixture->carriedOut(m_fixture->request("UserLogin"));
+    const QByteArray token = m_fixture->value("userToken");
+    QCOMPARE(m_fixture->post(m_fixture->request("GetDownload2D").with("drawingView", token)).status, 500);
     m_fixture->client().get("/nothing?password=demo");
 
     const std::vector<devcatalog::RequestRecord> records = m_fixture->server().requests();
@@ -249,8 +291,8 @@ void CatalogServiceTest::theRequestLogTellsNoSecrets()
     const QByteArray log = m_fixture->log();
     QCOMPARE(log.count('\n'), int(records.size()));
     QVERIFY(log.contains("UserLogin 200\n"));
-    const test::ClientValues& values = m_fixture->values();
-    for (const QByteArray& secret : {values.sessionId, values.apiKey, values.userToken, QByteArray("demo")})
+    const QByteArray session = m_fixture->value("sessionId");
+    for (const QByteArray& secret : {session, m_fixture->value("apiKey"), token, QByteArray("demo")})
         QVERIFY2(!log.contains(secret), secret);
 }
 
@@ -288,8 +330,10 @@ void CatalogServiceTest::aStoppedServerForgetsAndStartsAgain()
 
     server.start();
     const test::CatalogClient after(server.port(), caFile);
-    const SoapRequest search = m_fixture->form("SimpleSearchAcrossCatalogs")
-                                   .request(QByteArray::fromStdString(server.serviceHost()));
+    const QByteArray host = QByteArray::fromStdString(m_fixture->server().serviceHost());
+    const QByteArray newHost = QByteArray::fromStdString(server.serviceHost());
+    SoapRequest search = m_fixture->request("SimpleSearchAcrossCatalogs").replaced(host, newHost);
+    search.headers[1].second.replace(host, newHost);
     QVERIFY(after.post(search).text("faultstring").contains("'apiKey'"));
 }
 

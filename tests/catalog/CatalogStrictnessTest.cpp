@@ -5,9 +5,7 @@
 
 #include <memory>
 
-using test::elementLine;
 using test::HttpAnswer;
-using test::RightForm;
 using test::SoapRequest;
 
 Q_DECLARE_METATYPE(test::SoapRequest)
@@ -18,12 +16,7 @@ namespace
 /// More than the buffers of two sockets hold, so that it goes out whole only to a server that reads it all.
 constexpr int FloodSize = 32000000;
 
-/// Elements that a person's typing or the catalog's content fills.
-bool takesAnyText(const QByteArray& operation, const QByteArray& element)
-{
-    const QVector<QByteArray> free{"searchTerm", "userId", "supplierName", "modelName", "configName"};
-    return free.contains(element) || (operation == "UserLogin" && element == "password");
-}
+const QByteArray Search = "SimpleSearchAcrossCatalogs";
 
 void refuse(const QByteArray& name, const SoapRequest& request, const QString& cause)
 {
@@ -50,9 +43,9 @@ private slots:
     void hostileConnectionsDoNoHarm();
 
 private:
-    void addChangedElements(const RightForm& form, int index) const;
-    void addChangedEnvelopes() const;
-    void addChangedHeaders() const;
+    void addChangedElements(const SoapRequest& valid) const;
+    void addChangedEnvelopes(const SoapRequest& valid) const;
+    void addChangedHeaders(const SoapRequest& valid) const;
     void addChangedValues() const;
     void addHostileBodies() const;
 
@@ -64,11 +57,10 @@ void CatalogStrictnessTest::changedRequestsAreRefused_data()
 {
     QTest::addColumn<SoapRequest>("request");
     QTest::addColumn<QString>("cause");
-    for (const RightForm& form : rightForms(m_fixture->values()))
-        for (int index = 0; index < form.elements.size(); ++index)
-            addChangedElements(form, index);
-    addChangedEnvelopes();
-    addChangedHeaders();
+    for (const QByteArray& operation : test::CatalogFixture::operations())
+        addChangedElements(m_fixture->request(operation));
+    addChangedEnvelopes(m_fixture->request(Search));
+    addChangedHeaders(m_fixture->request(Search));
     addChangedValues();
     addHostileBodies();
 }
@@ -77,7 +69,7 @@ void CatalogStrictnessTest::changedRequestsAreRefused()
 {
     QFETCH(SoapRequest, request);
     QFETCH(QString, cause);
-    const HttpAnswer answer = m_fixture->client().post(request);
+    const HttpAnswer answer = m_fixture->post(request);
     QCOMPARE(answer.status, 500);
     QCOMPARE(answer.contentType, QByteArray("text/xml; charset=utf-8"));
     QCOMPARE(answer.text("faultcode"), QString("soap:Client"));
@@ -89,58 +81,39 @@ void CatalogStrictnessTest::changedRequestsAreRefused()
 /// A body can come without one, in chunks.
 void CatalogStrictnessTest::bodyNeedsALength()
 {
-    const SoapRequest right = m_fixture->request("ServiceLogin");
-    QByteArray http = right.toHttp().chopped(right.body.size());
-    http.replace("Content-Length: " + QByteArray::number(right.body.size()), "Transfer-Encoding: chunked");
-    http += QByteArray::number(right.body.size(), 16) + "\r\n" + right.body + "\r\n0\r\n\r\n";
+    const SoapRequest valid = m_fixture->request("ServiceLogin");
+    QByteArray http = valid.toHttp().chopped(valid.body.size());
+    http.replace("Content-Length: " + QByteArray::number(valid.body.size()), "Transfer-Encoding: chunked");
+    http += QByteArray::number(valid.body.size(), 16) + "\r\n" + valid.body + "\r\n0\r\n\r\n";
     QVERIFY(m_fixture->client().exchange(http).contains("'content-length' is missing"));
 }
 
-/// Takes one element out, doubles, moves, renames it, gives it an attribute or a child, and changes its text.
-void CatalogStrictnessTest::addChangedElements(const RightForm& form, int index) const
+/// Each element must be there, filled, and hold what is its own.
+void CatalogStrictnessTest::addChangedElements(const SoapRequest& valid) const
 {
-    const auto& [element, value] = form.elements.at(index);
-    const QByteArray line = elementLine(element, value);
-    const QString named = "'" + element + "'";
-    const SoapRequest right = form.request(m_fixture->serviceHost());
-    const auto change = [&](const char* name, const QByteArray& part, const QByteArray& changed,
-                            const QString& cause) {
-        SoapRequest request = right;
-        request.body.replace(line, QByteArray(line).replace(part, changed));
-        refuse(form.operation + " " + element + " " + name, request, cause);
-    };
-    change("missing", line, "", named);
-    change("twice", line, line + line, named);
-    change("renamed", element, element.toUpper(), named);
-    change("prefixed", element, "soap:" + element, named);
-    change("with an attribute", "<" + element, "<" + element + " a='b'",
-           named + " has an attribute too many: 'a'");
-    change("with a child", "</", "<x/></", named + " must hold");
-    change("with its placeholder", line, elementLine(element, "string"), named + " must hold");
-    if (!takesAnyText(form.operation, element))
-        change("with another value", line, elementLine(element, "x" + value), named + " must hold");
-    if (index + 1 < form.elements.size()) {
-        const auto& [nextElement, nextValue] = form.elements.at(index + 1);
-        const QByteArray nextLine = elementLine(nextElement, nextValue);
-        SoapRequest swapped = right;
-        swapped.body.replace(line + nextLine, nextLine + line);
-        refuse(form.operation + " " + element + " after its neighbour", swapped, named);
+    const QVector<QByteArray> typed{"searchTerm", "userId", "supplierName", "modelName", "configName"};
+    for (const QByteArray& element : valid.elements()) {
+        const QByteArray row = valid.operation + " " + element;
+        const QString named = "'" + element + "'";
+        refuse(row + " missing", valid.replaced(valid.element(element), ""), named);
+        refuse(row + " not filled", valid.with(element, "string"), named + " must hold");
+        const bool isTyped =
+            typed.contains(element) || (valid.operation == "UserLogin" && element == "password");
+        if (!isTyped)
+            refuse(row + " changed", valid.with(element, "x" + m_fixture->value(element)),
+                   named + " must hold");
     }
 }
 
-void CatalogStrictnessTest::addChangedEnvelopes() const
+void CatalogStrictnessTest::addChangedEnvelopes(const SoapRequest& valid) const
 {
-    const SoapRequest right = m_fixture->request("SimpleSearchAcrossCatalogs");
-    const auto change = [&right](const QByteArray& name, const QByteArray& part, const QByteArray& changed,
+    const auto change = [&valid](const QByteArray& name, const QByteArray& part, const QByteArray& changed,
                                  const QString& cause) {
-        SoapRequest request = right;
-        request.body.replace(part, changed);
-        QVERIFY2(request.body != right.body, name);
-        refuse(name, request, cause);
+        refuse(name, valid.replaced(part, changed), cause);
     };
-    change("no declaration", "<?xml version='1.0' encoding='utf-8'?>\n", "", "XML declaration");
-    change("version 1.1", "version='1.0'", "version='1.1'", "'version'");
-    change("another encoding", "encoding='utf-8'", "encoding='utf-16'", "'encoding'");
+    change("no declaration", "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n", "", "XML declaration");
+    change("version 1.1", "version=\"1.0", "version=\"1.1", "'version'");
+    change("another encoding", "utf-8", "utf-16", "'encoding'");
     change("a byte order mark", "<?xml", "\xef\xbb\xbf<?xml", "XML declaration");
     for (const QByteArray name : {"xmlns:soap", "xmlns:xsd", "xmlns:xsi", "xmlns"}) {
         change("no " + name, name + "=", "id=", "'" + name + "'");
@@ -149,57 +122,58 @@ void CatalogStrictnessTest::addChangedEnvelopes() const
     change("xsd twice", "<soap:Envelope", "<soap:Envelope xmlns:xsd='http://www.w3.org/2001/XMLSchema'",
            "'xmlns:xsd'");
     change("another prefix", "soap:", "env:", "'soap:Envelope'");
-    change("a header", " <soap:Body>", " <soap:Header/><soap:Body>", "'soap:Header'");
+    change("a header", "<soap:Body>", "<soap:Header/><soap:Body>", "'soap:Header'");
     change("an attribute of the body", "<soap:Body>", "<soap:Body id='1'>", "'id'");
     change("two bodies", "</soap:Body>", "</soap:Body><soap:Body/>", "'soap:Body'");
-    change("another operation", "SimpleSearchAcrossCatalogs", "GetConfigInfo", "'GetConfigInfo'");
-    change("two operations", " </soap:Body>", "<GetConfigInfo/></soap:Body>", "'GetConfigInfo'");
-    change("an element more", "  </Simple", "  <more/></Simple", "'more'");
-    change("a comment", "   <apiKey>", "<!-- c --><apiKey>", "a comment");
-    change("an instruction", "   <apiKey>", "<?php ?><apiKey>", "a processing instruction");
-    change("loose text", "   <apiKey>", "loose<apiKey>", "text");
-    change("text after the end", "</soap:Envelope>\n", "</soap:Envelope>tail", "text");
+    change("another operation", Search, "GetConfigInfo", "'GetConfigInfo'");
+    change("two operations", "</soap:Body>", "<GetConfigInfo/></soap:Body>", "'GetConfigInfo'");
+    change("text after the end", "</soap:Envelope>", "</soap:Envelope>tail", "text");
     change("a document type", "<soap:Envelope", "<!DOCTYPE x><soap:Envelope", "a document type");
-    change("CDATA", ">Base<", "><![CDATA[Base]]><", "'language' must hold plain text");
+
+    const QByteArray page = valid.element("pageSize");
+    change("an element twice", page, page + page, "'pageSize'");
+    change("two in the wrong order", page, valid.element("pageNumber") + page, "'pageNumber'");
+    change("another letter case", page, "<PageSize>5</PageSize>", "'PageSize'");
+    change("an attribute", page, "<pageSize a='b'>5</pageSize>", "'pageSize' has an attribute too many: 'a'");
+    change("a child", page, "<pageSize><x/>5</pageSize>", "'pageSize' must hold plain text");
+    change("CDATA", page, "<pageSize><![CDATA[5]]></pageSize>", "'pageSize' must hold plain text");
+    change("a comment", page, "<!-- c -->" + page, "a comment");
+    change("an instruction", page, "<?php ?>" + page, "a processing instruction");
+    change("loose text", page, "loose" + page, "text");
+    change("an element more", "</" + Search, "<more/></" + Search, "'more'");
 }
 
-void CatalogStrictnessTest::addChangedHeaders() const
+void CatalogStrictnessTest::addChangedHeaders(const SoapRequest& valid) const
 {
-    const SoapRequest right = m_fixture->request("SimpleSearchAcrossCatalogs");
-    const auto change = [&right](const char* name, const QByteArray& header, const QByteArray& value,
+    const auto change = [&valid](const char* name, const QByteArray& header, const QByteArray& value,
                                  const QString& cause) {
-        SoapRequest request = right;
-        request.setHeader(header, value);
-        refuse(name, request, cause);
+        refuse(name, valid.withHeader(header, value), cause);
     };
-    const QByteArray prefix = "http://" + m_fixture->serviceHost() + "/Content/";
-    const QByteArray action = prefix + "SimpleSearchAcrossCatalogs";
+    const QByteArray action = valid.headers.at(1).second;
+    const QByteArray prefix = action.chopped(Search.size());
     change("quoted action", "SOAPAction", "\"" + action + "\"", "quotation marks");
-    change("action without namespace", "SOAPAction", "SimpleSearchAcrossCatalogs", "SOAPAction");
+    change("action without namespace", "SOAPAction", Search, "SOAPAction");
     change("action with https", "SOAPAction", "https" + action.mid(4), "SOAPAction");
     change("unknown action", "SOAPAction", prefix + "GetModelDetail", "GetModelDetail");
     change("action of another endpoint", "SOAPAction", prefix + "ServiceLogin",
            "'/ContentWS/contentws.asmx'");
     change("action of another body", "SOAPAction", prefix + "GetConfigInfo", "'GetConfigInfo'");
-    change("empty action", "SOAPAction", "", "'soapaction' is missing");
     change("another type", "Content-Type", "application/soap+xml; charset=utf-8", "'content-type'");
     change("no charset", "Content-Type", "text/xml", "'content-type'");
-    change("a form", "Content-Type", "multipart/form-data; boundary=x", "'content-type'");
     change("an encoding", "Content-Encoding", "gzip", "encoded");
-    for (const auto& header : right.headers) {
-        SoapRequest request = right;
-        request.headers.append(header);
-        refuse("two of " + header.first, request, "more than once");
-        request.removeHeader(header.first);
-        refuse("no " + header.first, request, "'" + header.first.toLower() + "' is missing");
+    for (const auto& header : valid.headers) {
+        SoapRequest twice = valid;
+        twice.headers.append(header);
+        refuse("two of " + header.first, twice, "more than once");
+        refuse("no " + header.first, valid.withHeader(header.first, {}),
+               "'" + header.first.toLower() + "' is missing");
     }
     const QPair<QByteArray, QString> paths[] = {
         {"/ContentWS/contentws.asmx", "'/ContentWS/ExternalWS.asmx'"},
         {"/contentws/externalws.asmx", "no endpoint"},
-        {"/", "no endpoint"},
     };
     for (const auto& [path, cause] : paths) {
-        SoapRequest request = right;
+        SoapRequest request = valid;
         request.path = path;
         refuse(path, request, cause);
     }
@@ -207,25 +181,20 @@ void CatalogStrictnessTest::addChangedHeaders() const
 
 void CatalogStrictnessTest::addChangedValues() const
 {
-    const test::ClientValues& values = m_fixture->values();
     const auto change = [this](const QByteArray& operation, const QByteArray& element,
                                const QByteArray& value, const QString& cause) {
-        RightForm form = m_fixture->form(operation);
-        form.value(element) = value;
-        refuse(element + " '" + value + "'", form.request(m_fixture->serviceHost()), cause);
+        refuse(element + " '" + value + "'", m_fixture->request(operation).with(element, value), cause);
     };
-    for (const char* page : {"two", "1.5", " 1", "99999999999", "", "int"})
-        change("SimpleSearchAcrossCatalogs", "pageNumber", page, "a whole number");
-    change("GenerateApiKeyByDescription", "sessionId", "", "'sessionId'");
-    change("SimpleSearchAcrossCatalogs", "apiKey", "", "'apiKey'");
-    change("SimpleSearchAcrossCatalogs", "apiKey", values.sessionId, "'apiKey'");
-    change("GetDownload2D", "userToken", values.apiKey, "'userToken'");
+    for (const char* page : {"1.5", " 1", "99999999999", ""})
+        change(Search, "pageNumber", page, "a whole number");
+    change(Search, "apiKey", m_fixture->value("sessionId"), "'apiKey'");
+    change("GetDownload2D", "userToken", m_fixture->value("apiKey"), "'userToken'");
     change("GetDownload2D", "drawingView", " Front", "a drawing view");
     change("GetDownload2D", "inputParameters", "\n   ", "nothing");
     change("GetConfigInfo", "supplierName", "Nobody & Sons", "'Nobody & Sons'");
-    change("GetConfigParams", "modelName", " " + values.model, "has no model");
+    change("GetConfigParams", "modelName", " " + m_fixture->value("modelName"), "has no model");
     change("GetConfigParams", "configName", "", "has no configuration");
-    change("GetDownload2D", "configName", "other", "has no configuration 'other'");
+    change("GetDownload2D", "configName", "M5 x 17", "has no configuration 'M5 x 17'");
 }
 
 void CatalogStrictnessTest::addHostileBodies() const
@@ -240,12 +209,9 @@ void CatalogStrictnessTest::addHostileBodies() const
     const QByteArray opened = QByteArray("<a>").repeated(50000);
     change("empty", "", "'soap:Envelope' is missing");
     change("cut", "<soap:Envelope><soap:Bo", notWellFormed);
-    change("crossed", "<a><b></a></b>", notWellFormed);
-    change("deep", opened, notWellFormed);
     change("deep and closed", opened + QByteArray("</a>").repeated(50000), "'soap:Envelope'");
     change("deep document type", "<!DOCTYPE a " + QByteArray("[<!").repeated(100000), notWellFormed);
     change("entity bomb", "<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&b;&b;'>]><a>&d;</a>", noText);
-    change("unknown reference", "<a>&nbsp;</a>", noText);
     change("bare ampersand", "<a>bolt & nut</a>", noText);
     change("reference to no character", "<a>&#0;</a>", noText);
     change("zero byte", QByteArray("<a>\0</a>", 8), noText);
@@ -262,15 +228,11 @@ void CatalogStrictnessTest::hostileConnectionsDoNoHarm_data()
     const QByteArray flood(FloodSize, '1');
     QTest::newRow("noise") << QByteArray("\0\1\2\3\r\n\r\n", 8);
     QTest::newRow("endless line") << flood;
-    QTest::newRow("endless header") << "POST / HTTP/1.1\r\nX: " + flood;
     QTest::newRow("endless body") << "POST / HTTP/1.1\r\nContent-Length: 9999999999\r\n\r\n" + flood;
+    QTest::newRow("negative body") << QByteArray("POST / HTTP/1.1\r\nContent-Length: -1\r\n\r\n");
     QTest::newRow("endless chunk") << "POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n" + flood;
     QTest::newRow("long path") << "GET /" + QByteArray(8000, 'a') + " HTTP/1.1\r\n\r\n";
-    QTest::newRow("long path, posted") << "POST /" + QByteArray(8000, 'a') + " HTTP/1.1\r\n\r\n";
-    QTest::newRow("many parts of a file")
-        << "GET /Login.aspx HTTP/1.1\r\nRange: bytes=0-" + QByteArray(",0-").repeated(2000) + "\r\n\r\n";
     QTest::newRow("unknown method") << QByteArray("BREW / HTTP/1.1\r\n\r\n");
-    QTest::newRow("put") << "PUT / HTTP/1.1\r\nContent-Length: 32000000\r\n\r\n" + flood;
 }
 
 void CatalogStrictnessTest::hostileConnectionsDoNoHarm()

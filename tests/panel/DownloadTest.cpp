@@ -3,7 +3,6 @@
 #include "service/SessionValues.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
-#include "tests/support/ScriptedConnection.h"
 
 #include <QDir>
 #include <QFile>
@@ -366,7 +365,7 @@ void DownloadTest::newerClickDropsTheFile()
     QCOMPARE(m_panel->files(), QStringList()); // at once
     QTRY_COMPARE(prompted(), QStringList("part1.dwg"));
     m_panel->service().releaseAll();
-    QTRY_VERIFY(m_panel->service().findChildren<test::ScriptedConnection*>().isEmpty());
+    QTRY_COMPARE(m_panel->service().openConnections(), 0);
     QCOMPARE(prompted(), QStringList("part1.dwg"));
     QTRY_VERIFY(m_panel->files().isEmpty());
 }
@@ -446,7 +445,7 @@ void DownloadTest::closedPaneLeavesNoFile()
     m_panel->closePane();
     QVERIFY(m_panel->files().isEmpty());
     m_panel->service().releaseAll();
-    QTRY_VERIFY(m_panel->service().findChildren<test::ScriptedConnection*>().isEmpty());
+    QTRY_COMPARE(m_panel->service().openConnections(), 0);
     QVERIFY(m_panel->host().journal().lines().isEmpty());
     QVERIFY(m_panel->files().isEmpty());
 }

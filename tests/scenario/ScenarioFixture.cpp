@@ -18,19 +18,6 @@ namespace
 
 constexpr int Patience = 30000; // Milliseconds.
 
-bool startsWith(const std::string& text, const std::string& beginning)
-{
-    return text.compare(0, beginning.size(), beginning) == 0;
-}
-
-/// @return the operation that a request names; empty for none.
-std::string operationOf(const devcatalog::HttpRequest& request)
-{
-    const auto header = request.headers.find("soapaction");
-    return header == request.headers.end() ? std::string()
-                                           : header->second.substr(header->second.rfind('/') + 1);
-}
-
 } // namespace
 
 ScenarioFixture::ScenarioFixture()
@@ -107,7 +94,7 @@ QStringList ScenarioFixture::files()
 void ScenarioFixture::hold(const QString& operationOrPath)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_heldKey = operationOrPath.toStdString();
+    m_heldKey = operationOrPath;
 }
 
 bool ScenarioFixture::isHeld()
@@ -127,10 +114,10 @@ void ScenarioFixture::release()
 void ScenarioFixture::keepBack(const devcatalog::HttpRequest& request)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    if (m_heldKey.empty() || (operationOf(request) != m_heldKey && !startsWith(request.path, m_heldKey)))
+    if (m_heldKey.isEmpty() || (request.operation() != m_heldKey && !request.path().startsWith(m_heldKey)))
         return;
     ++m_heldCount;
-    m_released.wait(lock, [this] { return m_heldKey.empty(); });
+    m_released.wait(lock, [this] { return m_heldKey.isEmpty(); });
 }
 
 void ScenarioFixture::waitFor(const std::function<bool()>& condition)

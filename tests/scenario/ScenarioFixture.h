@@ -87,7 +87,7 @@ private:
 
     std::mutex m_mutex; ///< guards what the catalog's threads use
     std::condition_variable m_released;
-    std::string m_heldKey; ///< empty when nothing is held
+    QString m_heldKey; ///< empty when nothing is held
     int m_heldCount = 0;
 
     devcatalog::PartCatalog m_parts;

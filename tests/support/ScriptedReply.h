@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dev/catalog/https/HttpsConnection.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -10,11 +12,7 @@ namespace test
 class ScriptedReply
 {
 public:
-    enum class Ending {
-        KeepOpen, ///< as HTTP/1.1 does
-        Close,
-        Reset
-    };
+    using Ending = devcatalog::HttpsConnection::Ending;
 
     /// As never().
     ScriptedReply() = default;

@@ -1,14 +1,11 @@
 #include "tests/support/ScriptedService.h"
 
-#include "tests/support/ScriptedConnection.h"
-
-#include <QHostAddress>
-#include <QNetworkProxy>
-#include <QTcpServer>
-
 #include <algorithm>
 #include <array>
 #include <utility>
+
+using devcatalog::HttpsConnection;
+using devcatalog::HttpsServer;
 
 namespace test
 {
@@ -23,32 +20,12 @@ bool matches(const RecordedRequest& request, const QString& key)
 
 } // namespace
 
-/// Hands out bare descriptors, for each connection makes a TLS socket of its own.
-class ScriptedService::TlsServer : public QTcpServer
-{
-public:
-    explicit TlsServer(ScriptedService& service) : m_service(service) {}
-
-protected:
-    void incomingConnection(qintptr descriptor) override { m_service.addConnection(descriptor); }
-
-private:
-    ScriptedService& m_service;
-};
-
 ScriptedService::ScriptedService(const ServerIdentity& identity, QObject* parent)
-    : QObject(parent), m_identity(identity), m_server(std::make_unique<TlsServer>(*this))
+    : QObject(parent), m_server(identity, this)
 {
-    m_server->setProxy(QNetworkProxy::NoProxy);
-    if (!m_server->listen(QHostAddress::LocalHost))
-        qCritical("The scripted service cannot listen: %s", qPrintable(m_server->errorString()));
-}
-
-ScriptedService::~ScriptedService() = default;
-
-quint16 ScriptedService::port() const
-{
-    return m_server->serverPort();
+    connect(&m_server, &HttpsServer::connectionArrived, this, &ScriptedService::addConnection);
+    if (!m_server.takePort(0))
+        qCritical("The scripted service cannot listen: %s", qPrintable(m_server.errorString()));
 }
 
 void ScriptedService::setReply(const QString& key, const ScriptedReply& reply)
@@ -96,17 +73,15 @@ void ScriptedService::sendHeld(const Held& held)
     }
 }
 
-void ScriptedService::addConnection(qintptr descriptor)
+void ScriptedService::addConnection(HttpsConnection* connection)
 {
     ++m_connectionCount;
-    auto* connection = new ScriptedConnection(descriptor, m_identity, this);
-    connect(connection, &ScriptedConnection::bytesArrived, this,
-            [this](qint64 count) { m_byteCount += count; });
-    connect(connection, &ScriptedConnection::requestArrived, this,
+    connect(connection, &HttpsConnection::bytesArrived, this, [this](qint64 count) { m_byteCount += count; });
+    connect(connection, &HttpsConnection::requestArrived, this,
             [this, connection](const RecordedRequest& request) { answer(connection, request); });
 }
 
-void ScriptedService::answer(ScriptedConnection* connection, const RecordedRequest& request)
+void ScriptedService::answer(HttpsConnection* connection, const RecordedRequest& request)
 {
     m_requests.append(request);
     const ScriptedReply reply = replyFor(request);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/RecordedRequest.h"
+#include "dev/catalog/https/HttpsServer.h"
 #include "tests/support/ScriptedReply.h"
 #include "tests/support/TestCertificates.h"
 
@@ -10,14 +10,10 @@
 #include <QQueue>
 #include <QVector>
 
-#include <memory>
-
-class QTcpServer;
-
 namespace test
 {
 
-class ScriptedConnection;
+using RecordedRequest = devcatalog::HttpRequest;
 
 /**
  * An HTTPS service on a free port of the loopback that answers as the test says and records every request.
@@ -34,9 +30,8 @@ class ScriptedService : public QObject
 
 public:
     explicit ScriptedService(const ServerIdentity& identity, QObject* parent = nullptr);
-    ~ScriptedService() override;
 
-    quint16 port() const;
+    quint16 port() const { return m_server.serverPort(); }
 
     /// The answer whenever nothing is queued.
     void setReply(const QString& key, const ScriptedReply& reply);
@@ -56,24 +51,24 @@ public:
 
     /// Connections accepted, whatever became of their handshake.
     int connectionCount() const { return m_connectionCount; }
+    /// Of those, the ones that have not ended.
+    int openConnections() const { return findChildren<devcatalog::HttpsConnection*>().size(); }
     /// Bytes that arrived inside TLS, parts of requests included.
     qint64 byteCount() const { return m_byteCount; }
 
 private:
-    class TlsServer;
     struct Held {
         int request;
-        QPointer<ScriptedConnection> connection;
+        QPointer<devcatalog::HttpsConnection> connection;
         ScriptedReply reply;
     };
 
-    void addConnection(qintptr descriptor);
-    void answer(ScriptedConnection* connection, const RecordedRequest& request);
+    void addConnection(devcatalog::HttpsConnection* connection);
+    void answer(devcatalog::HttpsConnection* connection, const RecordedRequest& request);
     ScriptedReply replyFor(const RecordedRequest& request);
     static void sendHeld(const Held& held);
 
-    ServerIdentity m_identity;
-    std::unique_ptr<QTcpServer> m_server;
+    devcatalog::HttpsServer m_server;
     QHash<QString, ScriptedReply> m_standing;
     QHash<QString, QQueue<ScriptedReply>> m_queued;
     QVector<RecordedRequest> m_requests;

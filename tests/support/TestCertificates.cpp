@@ -17,22 +17,6 @@ std::time_t twoYearsAgo()
     return std::time(nullptr) - 2 * 365 * day;
 }
 
-template <auto encode, typename T>
-QByteArray derOf(T* object)
-{
-    QByteArray bytes(encode(object, nullptr), '\0');
-    auto* position = reinterpret_cast<unsigned char*>(bytes.data());
-    encode(object, &position);
-    return bytes;
-}
-
-ServerIdentity issue(const CertificateAuthority& authority, const QString& hostName)
-{
-    const devcatalog::Identity identity = authority.issue(hostName.toStdString());
-    return {QSslCertificate(derOf<i2d_X509>(identity.certificate.get()), QSsl::Der),
-            QSslKey(derOf<i2d_PrivateKey>(identity.key.get()), QSsl::Ec, QSsl::Der)};
-}
-
 } // namespace
 
 TestCertificates::TestCertificates(const QString& hostName) : m_hostName(hostName)
@@ -48,22 +32,22 @@ TestCertificates::~TestCertificates()
 
 ServerIdentity TestCertificates::good() const
 {
-    return issue(CertificateAuthority(folder("authority")), m_hostName);
+    return CertificateAuthority(folder("authority")).issue(m_hostName.toStdString());
 }
 
 ServerIdentity TestCertificates::untrusted() const
 {
-    return issue(CertificateAuthority(folder("another")), m_hostName);
+    return CertificateAuthority(folder("another")).issue(m_hostName.toStdString());
 }
 
 ServerIdentity TestCertificates::expired() const
 {
-    return issue(CertificateAuthority(folder("authority"), twoYearsAgo()), m_hostName);
+    return CertificateAuthority(folder("authority"), twoYearsAgo()).issue(m_hostName.toStdString());
 }
 
 ServerIdentity TestCertificates::wrongName() const
 {
-    return issue(CertificateAuthority(folder("authority")), "elsewhere.test");
+    return CertificateAuthority(folder("authority")).issue("elsewhere.test");
 }
 
 void TestCertificates::trust()

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QSslCertificate>
+#include "dev/catalog/https/ServerIdentity.h"
+
 #include <QSslConfiguration>
-#include <QSslKey>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -12,11 +12,7 @@
 namespace test
 {
 
-/// What a TLS server shows and signs with.
-struct ServerIdentity {
-    QSslCertificate certificate;
-    QSslKey key;
-};
+using devcatalog::ServerIdentity;
 
 /// An authority of its own and what it issues for one host name. Nothing trusts it until trust() is called.
 class TestCertificates

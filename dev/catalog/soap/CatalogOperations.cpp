@@ -1,14 +1,11 @@
 #include "dev/catalog/soap/CatalogOperations.h"
 
-#include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/catalog/soap/ReplyEnvelope.h"
 #include "dev/catalog/soap/SoapFault.h"
 #include "dev/catalog/soap/XmlText.h"
-#include "dev/dwg/Writer.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <utility>
 
 namespace devcatalog
@@ -159,10 +156,9 @@ void CatalogOperations::drawing(const RequestValues& values, pugi::xml_node resu
 {
     const Part& part = requirePart(values);
     const Configuration& configuration = requireConfiguration(part, values);
-    if (const std::optional<dwg::Drawing> drawn = drawPart(part, configuration, values.at("drawingView"))) {
-        const std::string path = m_site.addDrawing(part, dwg::writeDwg(*drawn));
+    const std::string path = m_site.addDrawing(part, configuration, values.at("drawingView"));
+    if (!path.empty())
         result.text().set(m_host.address("/" + path).c_str());
-    }
 }
 
 } // namespace devcatalog

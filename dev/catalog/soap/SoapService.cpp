@@ -18,24 +18,25 @@ const std::string ContentType = "text/xml; charset=utf-8";
 
 /// @return the header's value.
 /// @throws SoapFault unless it came just once.
-const std::string& requireHeader(const HttpRequest& request, const std::string& name)
+std::string requireHeader(const HttpRequest& request, const std::string& name)
 {
-    const auto [first, last] = request.headers.equal_range(name);
-    if (first == last)
+    const QVector<QByteArray> values = request.headerValues(QByteArray::fromStdString(name));
+    if (values.isEmpty())
         throw SoapFault("The header " + quote(name) + " is missing.");
-    if (std::next(first) != last)
+    if (values.size() > 1)
         throw SoapFault("The header " + quote(name) + " came more than once.");
-    return first->second;
+    return values.first().toStdString();
 }
 
 void requireHeaders(const HttpRequest& request)
 {
+    constexpr int maximumBody = 524288;
     if (requireHeader(request, "content-type") != ContentType)
         throw SoapFault("The header 'content-type' must be " + quote(ContentType) + ".");
     requireHeader(request, "content-length");
-    if (request.headers.count("content-encoding") != 0)
+    if (!request.header("content-encoding").isNull())
         throw SoapFault("The request must not be encoded.");
-    if (request.bodyTooLong)
+    if (request.body.size() > maximumBody)
         throw SoapFault("The request is too long.");
 }
 
@@ -78,10 +79,11 @@ SoapReply SoapService::answer(const HttpRequest& request)
 /// Endpoint and SOAPAction together name the operation.
 const Operation& SoapService::findOperation(const HttpRequest& request) const
 {
-    const auto isServed = [&request](const Operation& one) { return one.path == request.path; };
+    const std::string path = request.path().toStdString();
+    const auto isServed = [&path](const Operation& one) { return one.path == path; };
     if (std::none_of(m_contract.begin(), m_contract.end(), isServed))
-        throw SoapFault("There is no endpoint " + quote(request.path) + ".");
-    const std::string& action = requireHeader(request, "soapaction");
+        throw SoapFault("There is no endpoint " + quote(path) + ".");
+    const std::string action = requireHeader(request, "soapaction");
     const auto found = std::find_if(m_contract.begin(), m_contract.end(), [&](const Operation& one) {
         return action == m_namespace + "/" + one.name;
     });
@@ -90,16 +92,16 @@ const Operation& SoapService::findOperation(const HttpRequest& request) const
                         " with the name of an operation, without quotation marks; it is " + quote(action) +
                         ".");
     }
-    if (found->path != request.path) {
+    if (found->path != path) {
         throw SoapFault("The operation " + quote(found->name) + " belongs to the endpoint " +
-                        quote(found->path) + ", not to " + quote(request.path) + ".");
+                        quote(found->path) + ", not to " + quote(path) + ".");
     }
     return *found;
 }
 
 HttpReply SoapService::carryOut(const Operation& operation, const HttpRequest& request)
 {
-    const RequestValues values = m_reader.read(request.body, operation);
+    const RequestValues values = m_reader.read(request.body.toStdString(), operation);
     ReplyEnvelope envelope;
     m_operations.run(operation.name, values, envelope.addResult(operation.name, m_namespace));
     return {200, ContentType, envelope.text()};

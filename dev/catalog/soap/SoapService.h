@@ -1,6 +1,7 @@
 #pragma once
 
-#include "dev/catalog/HttpMessages.h"
+#include "dev/catalog/https/HttpReply.h"
+#include "dev/catalog/https/HttpRequest.h"
 #include "dev/catalog/soap/CatalogOperations.h"
 #include "dev/catalog/soap/EnvelopeReader.h"
 #include "dev/catalog/soap/IssuedValues.h"

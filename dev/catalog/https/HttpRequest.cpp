@@ -1,32 +1,31 @@
-#include "tests/support/RecordedRequest.h"
+#include "dev/catalog/https/HttpRequest.h"
 
 #include <QList>
 
-#include <algorithm>
-
-namespace test
+namespace devcatalog
 {
 
-QByteArray RecordedRequest::header(const QByteArray& name) const
+QVector<QByteArray> HttpRequest::headerValues(const QByteArray& name) const
 {
-    const auto found = std::find_if(headers.begin(), headers.end(), [&name](const auto& header) {
-        return header.first.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return found == headers.end() ? QByteArray() : found->second;
+    QVector<QByteArray> values;
+    for (const auto& [each, value] : headers)
+        if (each.compare(name, Qt::CaseInsensitive) == 0)
+            values.append(value);
+    return values;
 }
 
-QString RecordedRequest::path() const
+QString HttpRequest::path() const
 {
     return QString::fromUtf8(target.split('?').first());
 }
 
-QString RecordedRequest::operation() const
+QString HttpRequest::operation() const
 {
     const QByteArray action = header("SOAPAction");
     return QString::fromUtf8(action.mid(action.lastIndexOf('/') + 1));
 }
 
-bool RecordedRequest::readHead(const QByteArray& bytes)
+bool HttpRequest::readHead(const QByteArray& bytes)
 {
     head = bytes;
     QList<QByteArray> lines = bytes.split('\n');
@@ -44,4 +43,4 @@ bool RecordedRequest::readHead(const QByteArray& bytes)
     return true;
 }
 
-} // namespace test
+} // namespace devcatalog

@@ -1,4 +1,4 @@
-#include "tests/support/ConnectionReset.h"
+#include "dev/catalog/https/ConnectionReset.h"
 
 #include <QAbstractSocket>
 
@@ -8,7 +8,7 @@
 #include <sys/socket.h>
 #endif
 
-namespace test
+namespace devcatalog
 {
 
 void resetConnection(QAbstractSocket& socket)
@@ -26,4 +26,4 @@ void resetConnection(QAbstractSocket& socket)
     socket.abort();
 }
 
-} // namespace test
+} // namespace devcatalog

@@ -1,0 +1,22 @@
+#include "dev/catalog/https/HttpsServer.h"
+
+#include <QNetworkProxy>
+
+namespace devcatalog
+{
+
+HttpsServer::HttpsServer(const ServerIdentity& identity, QObject* parent) : QTcpServer(parent)
+{
+    setProxy(QNetworkProxy::NoProxy);
+    m_tls.setLocalCertificate(identity.certificate);
+    m_tls.setPrivateKey(identity.key);
+    m_tls.setPeerVerifyMode(QSslSocket::VerifyNone);
+    m_tls.setProtocol(QSsl::TlsV1_2OrLater);
+}
+
+void HttpsServer::incomingConnection(qintptr descriptor)
+{
+    emit connectionArrived(new HttpsConnection(descriptor, m_tls, this));
+}
+
+} // namespace devcatalog
