@@ -3,8 +3,9 @@
 # Without a display, or with --tour [DIR], the road through the add-in is played offscreen instead; its screenshots
 # go to DIR (out/tour where none is named). The other options are the development host's: ./run.sh --help
 set -euo pipefail
-cd "$(dirname "$0")"
+[[ $0 != */* ]] || cd "${0%/*}" # No program is needed until the options are right.
 . scripts/install-packages.sh
+. scripts/check-options.sh
 
 has_option() { # has_option NAME ARGUMENTS...
     local wanted=$1 argument
@@ -15,6 +16,7 @@ has_option() { # has_option NAME ARGUMENTS...
     return 1
 }
 
+check_options dev/host/options.txt "$@"
 install_packages $RUN_PACKAGES
 
 build=${DOCKWIDGET_BUILD_DIR:-build/dev}

@@ -18,6 +18,7 @@ struct CatalogFaults {
 
 /// What the command line of the program asks for.
 struct Options {
+    QString help;    ///< The usage text when that is all that is asked for; else empty.
     QString library; ///< Path of the add-in library.
     HostSettings settings;
     bool embeddedCatalog = true; ///< Starts the catalog service in this process.
@@ -25,6 +26,7 @@ struct Options {
     QString caFile;       ///< Certificate authority to trust besides those of the system; may be empty.
     QSize windowSize;     ///< Not valid when none was given.
     bool gallery = false; ///< Opens the gallery of styled widgets at the start.
+    bool quiet = false;   ///< Leaves out the add-in's debug output.
     bool tour = false;
     QString tourFolder;        ///< Where the tour saves its screenshots.
     bool longScenario = false; ///< The tour goes back and forth, fails, and cancels, too.
@@ -33,9 +35,9 @@ struct Options {
     QStringList searchTerms; ///< Of the tour, at least one.
 };
 
-/// Reads the program's arguments. Help is printed, and ends the program, as Qt does it.
+/// Reads the program's arguments.
 /// @param arguments with the program's name first.
-/// @param error receives one sentence when an argument is wrong; else it stays empty.
+/// @param error receives one sentence when an argument is wrong (see Usage); else it stays empty.
 Options parseOptions(const QStringList& arguments, const QString& defaultLibrary, QString* error);
 
 } // namespace devhost

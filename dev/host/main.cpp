@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QScreen>
 #include <QSslConfiguration>
 #include <QTextStream>
@@ -17,6 +18,13 @@ int fail(const QString& problem)
 {
     QTextStream(stderr) << problem << '\n';
     return 2;
+}
+
+/// Without a window, for that may not be had where only help is wanted.
+devhost::Options readOptions(int argc, char* argv[], QString* error)
+{
+    const QCoreApplication application(argc, argv);
+    return devhost::parseOptions(QCoreApplication::arguments(), DEVHOST_DEFAULT_LIBRARY, error);
 }
 
 /// Trusts the file's certificate authority in all of the process's TLS connections. @return whether it has
@@ -61,23 +69,28 @@ int runWindow(const devhost::Options& options)
 
 int main(int argc, char* argv[])
 {
+    QString error;
+    devhost::Options options = readOptions(argc, argv, &error);
+    if (!error.isEmpty())
+        return fail(error);
+    if (!options.help.isEmpty()) {
+        QTextStream(stdout) << options.help;
+        return 0;
+    }
+    if (options.quiet)
+        QLoggingCategory::setFilterRules("default.debug=false");
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     QApplication::setApplicationName("Plotvane Development Host");
     useDesktopFontSize();
 
-    QString error;
-    devhost::Options options =
-        devhost::parseOptions(QApplication::arguments(), DEVHOST_DEFAULT_LIBRARY, &error);
-    if (!error.isEmpty())
-        return fail(error);
     if (options.accountUser.isEmpty()) {
         options.accountUser = devhost::EmbeddedCatalog::accountUser();
         options.accountPassword = devhost::EmbeddedCatalog::accountPassword();
     }
     if (!options.caFile.isEmpty() && !trust(options.caFile))
-        return fail(QString("--ca: there is no certificate in %1").arg(options.caFile));
+        return fail(QString("--ca: there is no certificate in \"%1\".").arg(options.caFile));
 
     devhost::EmbeddedCatalog catalog;
     if (options.embeddedCatalog) {
