@@ -1,5 +1,6 @@
 #include "dev/host/AddInSession.h"
 #include "dev/host/EmbeddedCatalog.h"
+#include "dev/host/EndSignals.h"
 #include "dev/host/Options.h"
 #include "dev/host/scenario/Tour.h"
 #include "dev/host/window/MainWindow.h"
@@ -84,6 +85,7 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QApplication::setApplicationName("Plotvane Development Host");
     useDesktopFontSize();
+    devhost::endByEventLoopAtSignals();
 
     if (options.accountUser.isEmpty()) {
         options.accountUser = devhost::EmbeddedCatalog::accountUser();

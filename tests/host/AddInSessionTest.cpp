@@ -1,4 +1,5 @@
 #include "dev/host/AddInSession.h"
+#include "dev/host/EndSignals.h"
 #include "dev/host/Options.h"
 #include "dev/host/window/CommandLine.h"
 #include "dev/host/window/MainWindow.h"
@@ -12,6 +13,7 @@
 #include <QStandardPaths>
 #include <QtTest>
 
+#include <csignal>
 #include <memory>
 #include <tuple>
 
@@ -47,6 +49,7 @@ private slots:
 
     void unusableLibraries();
     void choicesTakeEffectAtTheNextConnect();
+    void signalsEndTheEventLoops();
     void optionsAreRead();
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
@@ -105,6 +108,20 @@ void AddInSessionTest::choicesTakeEffectAtTheNextConnect()
     window.host().journal().clear();
     QVERIFY(session.stop());
     QCOMPARE(window.host().journal().lines(), QStringList{R"(RemoveUserInterface("STAND-IN"))"});
+}
+
+void AddInSessionTest::signalsEndTheEventLoops()
+{
+    if (QSysInfo::kernelType() == "winnt")
+        QSKIP("There Ctrl+C is an event of the console");
+    devhost::endByEventLoopAtSignals();
+    for (const int signal : {SIGINT, SIGTERM}) {
+        QTimer::singleShot(0, this, [signal] {
+            QTimer::singleShot(0, qApp, [signal] { std::raise(signal); });
+            QEventLoop().exec(); // As a prompt and a box have one of their own.
+        });
+        QCOMPARE(QApplication::exec(), 128 + signal);
+    }
 }
 
 void AddInSessionTest::optionsAreRead()

@@ -186,6 +186,9 @@ void MainWindowTest::placementCanBeTyped()
         for (const char* wrong : {"12", "1,2,3,4", "a,b", "1,nan", "1,inf", "3DPH", ""})
             type(wrong);
         QCOMPARE(m_window->commandLine().history().count("A point is wanted as x,y."), 7);
+        for (const char* tooFar : {"1e10,0", "0,-1000000001", "0,0,1e300"})
+            type(tooFar);
+        QCOMPARE(m_window->commandLine().history().count("A point is wanted within -1e9 and 1e9."), 3);
         for (const char* text : {"s", "0", "2.5", "r", "x", "90", "r", ""})
             type(text);
         // Keys typed over the drawing go to the command line.

@@ -60,7 +60,7 @@ bool ScenarioRunner::play(const Scenario& scenario)
     m_timer.start();
     m_loop.exec();
     m_timer.stop();
-    return !m_failed;
+    return !m_failed && m_index == m_scenario.size(); // The program may have been told to end.
 }
 
 void ScenarioRunner::report(const QString& name, const Observation& observation)

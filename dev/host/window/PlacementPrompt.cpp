@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace devhost
@@ -13,6 +14,8 @@ namespace devhost
 
 namespace
 {
+
+constexpr double LargestCoordinate = 1e9; // Beyond, the painter's numbers run over.
 
 /// @return whether the text abbreviates the keyword.
 bool isKeyword(const QString& text, const QString& keyword)
@@ -103,10 +106,14 @@ void PlacementPrompt::submitPoint(const QString& text)
         return;
     }
     const QVector<double> numbers = numbersIn(text);
-    if (numbers.size() == 2 || numbers.size() == 3)
-        acceptAt({numbers.at(0), numbers.at(1)}, numbers.value(2));
-    else
+    const bool isNear = std::all_of(numbers.begin(), numbers.end(),
+                                    [](double number) { return std::abs(number) <= LargestCoordinate; });
+    if (numbers.size() != 2 && numbers.size() != 3)
         complain("A point is wanted as x,y.");
+    else if (!isNear)
+        complain("A point is wanted within -1e9 and 1e9.");
+    else
+        acceptAt({numbers.at(0), numbers.at(1)}, numbers.value(2));
 }
 
 void PlacementPrompt::submitScale(const QString& text)
