@@ -4,11 +4,11 @@
 #include "dev/host/Options.h"
 #include "dev/host/scenario/Tour.h"
 #include "dev/host/window/MainWindow.h"
+#include "dev/host/window/ScreenFit.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QScreen>
 #include <QSslConfiguration>
 #include <QTextStream>
 
@@ -54,8 +54,8 @@ int runWindow(const devhost::Options& options)
     devhost::MainWindow window(options.settings);
     if (options.windowSize.isValid())
         window.resize(options.windowSize);
-    else if (!options.tour) // Its screenshots have one size on every screen.
-        window.resize(window.size().boundedTo(window.screen()->availableSize()));
+    if (!options.tour) // Its screenshots have one size on every screen.
+        devhost::fitToScreen(window);
     window.show();
     devhost::AddInSession session(QFileInfo(options.library).absoluteFilePath(), window);
     if (options.tour)

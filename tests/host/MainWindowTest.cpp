@@ -5,11 +5,13 @@
 #include "dev/host/window/PlacementPrompt.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDialog>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -63,6 +65,7 @@ private slots:
     void userCommandShowsOnMenuAndRibbon();
     void paneIsDockedAroundANativeWidget();
     void hostedWidgetsFollowTheTheme();
+    void smallWindowLeadsToEverything();
     void drawingsOpenSwitchAndClose();
     void wheelZoomsAroundTheCursorAndMiddleButtonPans();
 
@@ -387,6 +390,34 @@ void MainWindowTest::hostedWidgetsFollowTheTheme()
             }
         }
     }
+}
+
+void MainWindowTest::smallWindowLeadsToEverything()
+{
+    m_window->resize(800, 1000);
+    auto* dock = m_window->findChild<QDockWidget*>("commandDock");
+    const auto* history = m_window->findChild<QPlainTextEdit*>("commandHistory");
+    m_window->resizeDocks({dock}, {600}, Qt::Vertical);
+    QTRY_COMPARE(dock->height(), 400);
+    m_window->resize(800, 600);
+    QTRY_VERIFY(dock->height() <= 240);
+    QCOMPARE(m_window->size(), QSize(800, 600));
+    m_window->resizeDocks({dock}, {1}, Qt::Vertical);
+    QTRY_VERIFY(dock->height() < 120);
+    QVERIFY(history->viewport()->height() >= history->fontMetrics().height());
+
+    QWidget* page = m_window->findChild<QTabWidget*>("ribbon")->currentWidget();
+    const auto* last = page->findChildren<QToolButton*>(QRegularExpression("^[A-Z]")).constLast();
+    const auto isSeen = [&] { return last->visibleRegion().boundingRect() == last->rect(); };
+    auto* right = page->findChild<QToolButton*>("ribbonRight");
+    QVERIFY(!isSeen());
+    for (int click = 0; click < 9 && right->isVisible(); ++click)
+        QTest::mouseClick(right, Qt::LeftButton);
+    QVERIFY(isSeen());
+
+    m_window->showGallery();
+    const auto* gallery = m_window->findChild<QDialog*>("widgetGallery");
+    QVERIFY(gallery->height() < gallery->screen()->availableGeometry().height());
 }
 
 void MainWindowTest::drawingsOpenSwitchAndClose()

@@ -34,6 +34,7 @@ CommandLine::CommandLine(QWidget* parent)
     m_history->setMaximumBlockCount(HistoryLines);
     m_history->setFrameShape(QFrame::NoFrame);
     m_history->setFont(font);
+    m_history->setMinimumHeight(2 * m_history->fontMetrics().height()); // A line and its margins.
 
     m_prompt->setObjectName("commandPrompt");
     m_prompt->setFont(font);

@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr int ShownLines = 2000;
-constexpr int ReadableWidth = 340; // Pixels.
+constexpr int SmallestWidth = 160; // Pixels.
 
 } // namespace
 
@@ -23,7 +23,7 @@ JournalPanel::JournalPanel(const Journal& journal, QWidget* parent)
     m_text->setObjectName("journalText");
     m_text->setReadOnly(true);
     m_text->setMaximumBlockCount(ShownLines);
-    m_text->setMinimumWidth(ReadableWidth);
+    m_text->setMinimumWidth(SmallestWidth);
     m_text->setFrameShape(QFrame::NoFrame);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setPlainText(journal.lines().join('\n'));

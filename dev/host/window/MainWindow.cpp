@@ -1,6 +1,7 @@
 #include "dev/host/window/MainWindow.h"
 
 #include "dev/host/model/DraftingInterface.h"
+#include "dev/host/window/CommandDock.h"
 #include "dev/host/window/CommandIcons.h"
 #include "dev/host/window/CommandLine.h"
 #include "dev/host/window/DrawingArea.h"
@@ -108,9 +109,7 @@ void MainWindow::createLayout()
     layout->addWidget(m_drawingArea, 1);
     setCentralWidget(centre);
 
-    auto* commandDock = new QDockWidget("Command Line", this);
-    commandDock->setObjectName("commandDock");
-    commandDock->setWidget(m_commandLine);
+    auto* commandDock = new CommandDock(m_commandLine, *this);
     auto* journal = new JournalPanel(m_host->journal(), this);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDockWidget(Qt::BottomDockWidgetArea, commandDock);

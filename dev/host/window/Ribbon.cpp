@@ -1,10 +1,10 @@
 #include "dev/host/window/Ribbon.h"
 
 #include "dev/host/window/CommandIcons.h"
+#include "dev/host/window/RibbonPage.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -85,14 +85,8 @@ QWidget* Ribbon::createPage(const HostApplication& application, const HostRibbon
         layout->addWidget(createPanel(application, *panel));
     layout->addStretch(1);
 
-    // Wide tabs are cut off in a narrow window instead of widening it.
-    auto* page = new QScrollArea;
+    auto* page = new RibbonPage(content);
     page->setObjectName(tab.id());
-    page->setFrameShape(QFrame::NoFrame);
-    page->setWidgetResizable(true);
-    page->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    page->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    page->setWidget(content);
     return page;
 }
 

@@ -1,5 +1,7 @@
 #include "dev/host/window/WidgetGallery.h"
 
+#include "dev/host/window/ScreenFit.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -17,6 +19,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QSlider>
 #include <QSpinBox>
 #include <QSplitter>
@@ -76,7 +79,12 @@ WidgetGallery::WidgetGallery(const QString& styleSheetPath, QWidget* parent) : Q
     auto* layout = new QVBoxLayout(this);
     layout->setMenuBar(createMenuBar());
     layout->addWidget(createToolBar());
-    layout->addLayout(besideEachOther({createColumn("Enabled", true), createColumn("Disabled", false)}));
+    auto* columns = new QWidget;
+    columns->setLayout(besideEachOther({createColumn("Enabled", true), createColumn("Disabled", false)}));
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setWidget(columns);
+    layout->addWidget(area);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -84,6 +92,8 @@ WidgetGallery::WidgetGallery(const QString& styleSheetPath, QWidget* parent) : Q
     auto* status = new QStatusBar;
     status->showMessage("Status");
     layout->addWidget(status);
+    resize(sizeHint() + columns->sizeHint() - area->sizeHint()); // As large as if nothing had to scroll.
+    fitToScreen(*this);
 }
 
 QMenuBar* WidgetGallery::createMenuBar()
