@@ -15,6 +15,7 @@ class QTabWidget;
 class QTranslator;
 class pvCommand_c;
 
+DOCKWIDGET_EXPORTED_CLASS_BEGIN
 /// The connected add-in: its registrations with the host, its pane and its translator, and the sink of the
 /// command's event. The entry points make one per connection.
 class DOCKWIDGET_API DockWidgetApplication final : public pvCommandEvents_c
@@ -70,3 +71,4 @@ private:
     pvCommand_c* m_command = nullptr;
     QTranslator* m_translator = nullptr;
 };
+DOCKWIDGET_EXPORTED_CLASS_END
