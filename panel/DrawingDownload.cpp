@@ -87,12 +87,12 @@ void DrawingDownload::request(const DrawnPart& part)
 
 void DrawingDownload::DragAndDrop(QNetworkReply* reply)
 {
-    SoapReply answer(reply);
+    m_replyText = takeText(reply);
     m_downloadReply.clear();
-    m_replyText = answer.text();
-    if (!answer.open())
+    const std::optional<SoapReply> answer = SoapReply::open(m_replyText);
+    if (!answer)
         return;
-    const QString address = answer.result(GetDownload2DOperation.resultElement);
+    const QString address = answer->result(GetDownload2DOperation.resultElement);
     if (address.isEmpty())
         showErrorBox(unsupportedViewMessage(g_drawingView));
     else

@@ -107,7 +107,7 @@ void PartHarbor_2D::ModelData(QNetworkReply* reply)
         releaseTransfer(reply);
         return;
     }
-    m_replyText = SoapReply(reply).text();
+    m_replyText = takeText(reply);
     m_parser->setContent(m_replyText);
     fillTable();
 }
@@ -135,16 +135,14 @@ void PartHarbor_2D::removeRows()
 
 void PartHarbor_2D::readResults()
 {
-    const SearchResults results =
-        m_parser->GetSearchResults(qMin(m_parser->GetActualItemCount(), MaximumRows));
-    m_thumbnailUrls = results.imageUrls;
-    m_supplierNames = results.supplierNames;
-    m_modelNames = results.modelNames;
-    m_descriptions = results.descriptions;
-    m_categories.clear();
-    for (QString& description : m_descriptions) {
-        if (description.isEmpty())
-            description = QLatin1String("None Provided");
+    for (QList<QString>* list :
+         {&m_thumbnailUrls, &m_supplierNames, &m_modelNames, &m_descriptions, &m_categories})
+        list->clear();
+    for (const SearchHit& hit : m_parser->GetSearchHits(qMin(m_parser->GetActualItemCount(), MaximumRows))) {
+        m_thumbnailUrls.append(hit.imageUrl);
+        m_supplierNames.append(hit.supplierName);
+        m_modelNames.append(hit.modelName);
+        m_descriptions.append(hit.description.isEmpty() ? QLatin1String("None Provided") : hit.description);
         m_categories.append(m_category);
     }
 }

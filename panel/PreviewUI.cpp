@@ -16,6 +16,7 @@
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
 #include "service/Transfer.h"
+#include "service/XMLParser.h"
 #include "ui_PreviewUI.h"
 
 #include <QButtonGroup>
@@ -197,7 +198,7 @@ void PreviewUI::OnBackbuttonclicked()
 
 void PreviewUI::SetModelData(QNetworkReply* pReply)
 {
-    m_modelData = SoapReply(pReply).text();
+    m_modelData = takeText(pReply);
 }
 
 void PreviewUI::GetConfigInfo()
@@ -209,17 +210,15 @@ void PreviewUI::GetConfigInfo()
 
 void PreviewUI::ConfigData(QNetworkReply* reply)
 {
-    if (isHidden()) { // left meanwhile, its label gone
-        releaseTransfer(reply);
+    const QString text = takeText(reply);
+    if (isHidden()) // left meanwhile, its sections gone
         return;
-    }
-    SoapReply answer(reply);
-    if (!answer.open())
+    const std::optional<SoapReply> answer = SoapReply::open(text);
+    if (!answer)
         return;
-    const QDomNodeList configurations =
-        answer.document().elementsByTagName(QLatin1String(GetConfigInfoOperation.resultElement));
-    for (int i = 0; i < configurations.count(); ++i)
-        m_configName = configurations.item(i).firstChild().firstChild().nodeValue();
+    const QStringList names = configurationNames(answer->document());
+    if (!names.isEmpty())
+        m_configName = names.last();
     ConfigValueLabel->setText(shownText(m_configName));
 
     sendSoapRequest(GetConfigParamsOperation,
@@ -233,15 +232,14 @@ void PreviewUI::ConfigData(QNetworkReply* reply)
 void PreviewUI::ConfigParamData(QNetworkReply* reply)
 {
     m_inputParameters = QDomNodeList();
-    if (isHidden()) {
-        releaseTransfer(reply);
+    const QString text = takeText(reply);
+    if (isHidden()) // left meanwhile, its sections gone
         return;
-    }
-    SoapReply answer(reply);
-    if (!answer.open())
+    const std::optional<SoapReply> answer = SoapReply::open(text);
+    if (!answer)
         return;
     m_inputParameters =
-        answer.document().elementsByTagName(QLatin1String(GetConfigParamsOperation.resultElement));
+        answer->document().elementsByTagName(QLatin1String(GetConfigParamsOperation.resultElement));
     setParameterTypes(m_inputParameters);
 }
 

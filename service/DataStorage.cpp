@@ -37,30 +37,32 @@ void DataStorage::ServiceLogin()
 
 void DataStorage::SetSessionID(QNetworkReply* reply)
 {
-    SoapReply answer(reply);
-    qDebug() << "data" << answer.text();
-    if (!answer.open())
+    const QString text = takeText(reply);
+    qDebug() << "data" << text;
+    const std::optional<SoapReply> answer = SoapReply::open(text);
+    if (!answer)
         return;
     sendSoapRequest(GenerateApiKeyOperation,
-                    {{"sessionId", answer.result(ServiceLoginOperation.resultElement)}}, this,
+                    {{"sessionId", answer->result(ServiceLoginOperation.resultElement)}}, this,
                     SLOT(GetAPIKey(QNetworkReply*)));
 }
 
 void DataStorage::GetAPIKey(QNetworkReply* reply)
 {
-    SoapReply answer(reply);
-    qDebug() << "data" << answer.text();
-    if (!answer.open())
+    const QString text = takeText(reply);
+    qDebug() << "data" << text;
+    const std::optional<SoapReply> answer = SoapReply::open(text);
+    if (!answer)
         return;
-    ApiKey = answer.result(GenerateApiKeyOperation.resultElement);
+    ApiKey = answer->result(GenerateApiKeyOperation.resultElement);
 }
 
 void DataStorage::SetUserToken(QNetworkReply* reply)
 {
-    SoapReply answer(reply);
-    if (!answer.open())
+    const std::optional<SoapReply> answer = SoapReply::open(takeText(reply));
+    if (!answer)
         return;
-    UserToken = answer.result(UserLoginOperation.resultElement);
+    UserToken = answer->result(UserLoginOperation.resultElement);
     showInformationBox(UserToken.isEmpty() ? QLatin1String("Login is not successful.")
                                            : QLatin1String("Login is successful."));
 }

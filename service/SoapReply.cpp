@@ -6,20 +6,23 @@
 
 #include <QFile>
 
-SoapReply::SoapReply(QNetworkReply* reply)
-    : m_text(QString::fromUtf8(takeBody(reply))), m_document(QLatin1String("output"))
+QString takeText(QNetworkReply* reply)
 {
+    return QString::fromUtf8(takeBody(reply));
 }
 
-bool SoapReply::open()
+std::optional<SoapReply> SoapReply::open(const QString& text)
 {
     QFile gate(QLatin1String(":/3DPH/output.xml"));
-    if (!gate.open(QIODevice::ReadOnly)) {
-        showCannotOpenBox(gate.fileName());
-        return false;
-    }
-    parseXml(m_text, &m_document);
-    return true;
+    if (gate.open(QIODevice::ReadOnly))
+        return SoapReply(text);
+    showCannotOpenBox(gate.fileName());
+    return std::nullopt;
+}
+
+SoapReply::SoapReply(const QString& text) : m_document(QLatin1String("output"))
+{
+    parseXml(text, &m_document);
 }
 
 QString SoapReply::result(const char* element) const

@@ -10,18 +10,59 @@
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
+#include <climits>
+
 namespace
 {
-
-// The fields of a hit have a place, not a name.
-constexpr int NameField = 0;
-constexpr int DescriptionField = 6;
-constexpr int ImageField = 7;
-constexpr int SupplierField = 16;
 
 QString textOf(const QDomNode& element)
 {
     return element.firstChild().nodeValue();
+}
+
+// The children of an element have a place, not a name.
+
+/// What is read of an element.
+using Reading = QString (*)(const QDomNodeList& children);
+
+template <int Place>
+QString childText(const QDomNodeList& children)
+{
+    return textOf(children.item(Place));
+}
+
+/// Without one leading blank.
+QString modelName(const QDomNodeList& fields)
+{
+    const QString text = childText<0>(fields);
+    return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
+}
+
+constexpr Reading description = childText<6>;
+
+QString imageUrl(const QDomNodeList& fields)
+{
+    return ServiceBaseUrl + childText<7>(fields);
+}
+
+constexpr Reading supplierName = childText<16>;
+
+/// Reads the elements of a name, @p limit of them at the most, in document order.
+template <typename List, typename Read>
+List readElements(const QDomDocument& document, const ServiceOperation& operation, int limit, Read read)
+{
+    const QDomNodeList elements = document.elementsByTagName(QLatin1String(operation.resultElement));
+    const int count = qBound(0, limit, elements.count());
+    List list;
+    list.reserve(count);
+    for (int i = 0; i < count; ++i)
+        list.append(read(elements.item(i).childNodes()));
+    return list;
+}
+
+QStringList readTexts(const QDomDocument& document, const ServiceOperation& operation, Reading read)
+{
+    return readElements<QStringList>(document, operation, INT_MAX, read);
 }
 
 /// The first element of either name in document order. Unlike Qt's list it walks no further.
@@ -38,11 +79,6 @@ QDomElement firstElement(const QDomNode& parent, const QString& name, const QStr
     return {};
 }
 
-QString withoutLeadingBlank(const QString& text)
-{
-    return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
-}
-
 /// A file's text in the encoding that its byte order mark or its declaration names.
 QString decode(const QByteArray& xml)
 {
@@ -54,6 +90,11 @@ QString decode(const QByteArray& xml)
 }
 
 } // namespace
+
+QStringList configurationNames(const QDomDocument& document)
+{
+    return readTexts(document, GetConfigInfoOperation, childText<0>);
+}
 
 XMLParser::XMLParser(const QString& fileName)
     : m_fileName(fileName), m_file(std::make_unique<QFile>(fileName))
@@ -87,56 +128,40 @@ int XMLParser::GetActualItemCount() const
 
 QStringList XMLParser::GetSearchItemNames() const
 {
-    QStringList names = childTexts(SearchOperation.resultElement, NameField);
-    for (QString& name : names)
-        name = withoutLeadingBlank(name);
-    return names;
+    return readTexts(m_document, SearchOperation, modelName);
 }
 
 QStringList XMLParser::GetSearchItemField1() const
 {
-    return childTexts(SearchOperation.resultElement, 1);
+    return readTexts(m_document, SearchOperation, childText<1>);
 }
 
 QStringList XMLParser::GetSearchItemField6() const
 {
-    return childTexts(SearchOperation.resultElement, DescriptionField);
+    return readTexts(m_document, SearchOperation, description);
 }
 
 QStringList XMLParser::GetSearchItemImageUrls() const
 {
-    QStringList urls = childTexts(SearchOperation.resultElement, ImageField);
-    for (QString& url : urls)
-        url.prepend(ServiceBaseUrl);
-    return urls;
+    return readTexts(m_document, SearchOperation, imageUrl);
 }
 
 QStringList XMLParser::GetSearchItemField16() const
 {
-    return childTexts(SearchOperation.resultElement, SupplierField);
+    return readTexts(m_document, SearchOperation, supplierName);
 }
 
 QStringList XMLParser::GetConfigurationNames() const
 {
-    return childTexts(GetConfigInfoOperation.resultElement, 0);
+    return configurationNames(m_document);
 }
 
-SearchResults XMLParser::GetSearchResults(int limit) const
+QVector<SearchHit> XMLParser::GetSearchHits(int limit) const
 {
-    SearchResults results;
-    const QDomNodeList items = m_document.elementsByTagName(QLatin1String(SearchOperation.resultElement));
-    const int count = qBound(0, limit, items.count());
-    for (QStringList* list :
-         {&results.imageUrls, &results.supplierNames, &results.modelNames, &results.descriptions})
-        list->reserve(count);
-    for (int i = 0; i < count; ++i) {
-        const QDomNodeList fields = items.item(i).childNodes();
-        results.imageUrls.append(ServiceBaseUrl + textOf(fields.item(ImageField)));
-        results.supplierNames.append(textOf(fields.item(SupplierField)));
-        results.modelNames.append(withoutLeadingBlank(textOf(fields.item(NameField))));
-        results.descriptions.append(textOf(fields.item(DescriptionField)));
-    }
-    return results;
+    const auto hit = [](const QDomNodeList& fields) {
+        return SearchHit{imageUrl(fields), supplierName(fields), modelName(fields), description(fields)};
+    };
+    return readElements<QVector<SearchHit>>(m_document, SearchOperation, limit, hit);
 }
 
 void XMLParser::test()
@@ -160,13 +185,4 @@ void XMLParser::create(const QString& fileName, XMLParser** parser)
 QDomDocument XMLParser::documentOf(const XMLParser* parser)
 {
     return parser != nullptr ? parser->m_document.cloneNode().toDocument() : QDomDocument();
-}
-
-QStringList XMLParser::childTexts(const char* element, int position) const
-{
-    QStringList texts;
-    const QDomNodeList elements = m_document.elementsByTagName(QLatin1String(element));
-    for (int i = 0; i < elements.count(); ++i)
-        texts.append(textOf(elements.item(i).childNodes().item(position)));
-    return texts;
 }

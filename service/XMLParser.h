@@ -4,16 +4,20 @@
 #include <QFile>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
-/// What a results page shows, read in one pass; a hit is the same index into the four lists.
-struct SearchResults {
-    QStringList imageUrls;
-    QStringList supplierNames;
-    QStringList modelNames;
-    QStringList descriptions;
+/// What a results page shows of one hit.
+struct SearchHit {
+    QString imageUrl;
+    QString supplierName;
+    QString modelName;
+    QString description;
 };
+
+/// Configuration names: child 0 of every IConfiguration of a document.
+QStringList configurationNames(const QDomDocument& document);
 
 /// Holds one reply document and answers questions about it. Every list has one entry per element of its kind,
 /// in document order, with an empty text where a child is missing or empty.
@@ -42,12 +46,12 @@ public:
     QStringList GetSearchItemImageUrls() const;
     /// Supplier names: child 16 of every ISearchItem.
     QStringList GetSearchItemField16() const;
-    /// Configuration names: child 0 of every IConfiguration.
+    /// See configurationNames().
     QStringList GetConfigurationNames() const;
 
-    /// The four lists of a results page at once, which a list at a time would walk the document for each.
+    /// The hits as records, read in one walk over the document.
     /// @param limit the number of hits wanted; fewer where the document has fewer, none when it is negative.
-    SearchResults GetSearchResults(int limit) const;
+    QVector<SearchHit> GetSearchHits(int limit) const;
 
     /// A developer's self-check: parses a fixed sample and writes debug lines.
     static void test();
@@ -62,8 +66,6 @@ public:
     static QDomDocument documentOf(const XMLParser* parser);
 
 private:
-    QStringList childTexts(const char* element, int position) const;
-
     QDomDocument m_document;
     QString m_fileName;
     std::unique_ptr<QFile> m_file;

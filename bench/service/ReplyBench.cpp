@@ -32,28 +32,26 @@ QByteArray searchReply(int hits, int actualItemCount)
                    "</soap:Body></soap:Envelope>";
 }
 
-SearchResults ours(const QByteArray& bytes, int limit)
+QVector<SearchHit> ours(const QByteArray& bytes, int limit)
 {
     XMLParser parser;
     parser.setContent(QString::fromUtf8(bytes));
-    return parser.GetSearchResults(qMin(parser.GetActualItemCount(), limit));
+    return parser.GetSearchHits(qMin(parser.GetActualItemCount(), limit));
 }
 
-/// All that Qt takes for the same four lists.
-SearchResults qtOnly(const QByteArray& bytes, int limit)
+/// All that Qt takes for the same hits.
+QVector<SearchHit> qtOnly(const QByteArray& bytes, int limit)
 {
-    SearchResults results;
+    QVector<SearchHit> hits;
     QDomDocument document;
     document.setContent(bytes);
     const QDomNodeList items = document.elementsByTagName(QLatin1String("ISearchItem"));
     for (int i = 0; i < qMin(items.count(), limit); ++i) {
         const QDomNodeList fields = items.item(i).childNodes();
-        results.modelNames.append(fields.item(0).firstChild().nodeValue());
-        results.descriptions.append(fields.item(6).firstChild().nodeValue());
-        results.imageUrls.append(fields.item(7).firstChild().nodeValue());
-        results.supplierNames.append(fields.item(16).firstChild().nodeValue());
+        hits.append({fields.item(7).firstChild().nodeValue(), fields.item(16).firstChild().nodeValue(),
+                     fields.item(0).firstChild().nodeValue(), fields.item(6).firstChild().nodeValue()});
     }
-    return results;
+    return hits;
 }
 
 void add(const std::string& name, const QByteArray& reply, int limit)

@@ -52,24 +52,22 @@ void require(bool condition)
 void readSoapReply(const QByteArray& body)
 {
     BytesReply reply(body);
-    SoapReply answer(&reply);
-    require(answer.open());
+    const std::optional<SoapReply> answer = SoapReply::open(takeText(&reply));
+    require(answer.has_value());
     for (const ServiceOperation* operation :
          {&ServiceLoginOperation, &GenerateApiKeyOperation, &UserLoginOperation, &GetDownload2DOperation})
-        answer.result(operation->resultElement);
+        answer->result(operation->resultElement);
 }
 
 void readSearchReply(const QByteArray& body)
 {
     XMLParser parser;
     parser.setContent(QString::fromUtf8(body));
-    const SearchResults results = parser.GetSearchResults(parser.GetActualItemCount());
-    const int hits = results.modelNames.size();
-    require(parser.GetSearchItemNames().mid(0, hits) == results.modelNames);
-    require(parser.GetSearchItemField6().mid(0, hits) == results.descriptions);
-    require(parser.GetSearchItemImageUrls().mid(0, hits) == results.imageUrls);
-    require(parser.GetSearchItemField16().mid(0, hits) == results.supplierNames);
-    require(parser.GetSearchItemField1().size() >= hits);
+    const QVector<SearchHit> hits = parser.GetSearchHits(parser.GetActualItemCount());
+    for (const QStringList& list :
+         {parser.GetSearchItemNames(), parser.GetSearchItemField1(), parser.GetSearchItemField6(),
+          parser.GetSearchItemImageUrls(), parser.GetSearchItemField16()})
+        require(list.size() >= hits.size());
     parser.GetConfigurationNames();
     XMLParser::documentOf(&parser);
 }

@@ -145,7 +145,7 @@ void HostileRepliesTest::replies()
         hasContent = document.hasChildNodes();
         XMLParser parser;
         parser.setContent(text);
-        parser.GetSearchResults(5);
+        parser.GetSearchHits(5);
         parser.GetSearchItemField1();
         parser.GetConfigurationNames();
         XMLParser::documentOf(&parser);

@@ -85,11 +85,14 @@ void XMLParserTest::hits()
 
     for (const int limit : {3, 2147483647, 0, -1}) {
         const int count = qBound(0, limit, 4);
-        const SearchResults results = parser.GetSearchResults(limit);
-        QCOMPARE(results.modelNames, parser.GetSearchItemNames().mid(0, count));
-        QCOMPARE(results.descriptions, parser.GetSearchItemField6().mid(0, count));
-        QCOMPARE(results.imageUrls, parser.GetSearchItemImageUrls().mid(0, count));
-        QCOMPARE(results.supplierNames, parser.GetSearchItemField16().mid(0, count));
+        const QVector<SearchHit> hits = parser.GetSearchHits(limit);
+        QCOMPARE(hits.size(), count);
+        for (int i = 0; i < count; ++i) {
+            QCOMPARE(hits[i].modelName, parser.GetSearchItemNames()[i]);
+            QCOMPARE(hits[i].description, parser.GetSearchItemField6()[i]);
+            QCOMPARE(hits[i].imageUrl, parser.GetSearchItemImageUrls()[i]);
+            QCOMPARE(hits[i].supplierName, parser.GetSearchItemField16()[i]);
+        }
     }
 }
 
@@ -117,7 +120,6 @@ void XMLParserTest::names()
     XMLParser parser;
     parser.setContent("<r><ISearchItem>" + child + "</ISearchItem></r>");
     QCOMPARE(parser.GetSearchItemNames(), QStringList{name});
-    QCOMPARE(parser.GetSearchResults(5).modelNames, QStringList{name});
 }
 
 void XMLParserTest::configurations()
@@ -159,7 +161,7 @@ void XMLParserTest::malformedReplyKeepsTheLastGoodOne()
 {
     XMLParser parser;
     QCOMPARE(parser.GetActualItemCount(), 0);
-    QCOMPARE(parser.GetSearchResults(5).modelNames, QStringList());
+    QCOMPARE(parser.GetSearchItemNames(), QStringList());
     parser.setContent(searchReply(item("a"), "60"));
     const QString other = searchReply(item("b"), "61");
     for (const QString& bad : {QString(), QString("no document"), other.chopped(1), other + "<",
