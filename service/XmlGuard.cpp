@@ -10,13 +10,30 @@ namespace
 {
 
 constexpr int MaximumDepth = 200;
+constexpr int MaximumAttributes = 100;
 constexpr std::ptrdiff_t MaximumNodes = 500'000;
 /// Any text may hold that many nodes; a longer one has to be as long as real replies are for theirs.
-constexpr std::ptrdiff_t NodesAtAnyLength = 20'000;
+constexpr std::ptrdiff_t NodesAtAnyLength = 50'000;
 constexpr std::ptrdiff_t CharactersPerNode = 8;
 
-/// Goes over the markup alone, once and without recursion, and counts what it will become. Malformed text may
-/// be counted wrongly only where the parser stops at the same place.
+bool isWhiteSpace(QChar character)
+{
+    return character <= QLatin1Char(' ') &&
+           (character == QLatin1Char(' ') || character == QLatin1Char('\n') ||
+            character == QLatin1Char('\r') || character == QLatin1Char('\t'));
+}
+
+/// Whether what stands behind a "&" is a character, by number or by a name that XML itself has.
+bool isCharacterReference(QStringView text)
+{
+    for (const QStringView known : {u"#", u"lt;", u"gt;", u"amp;", u"quot;", u"apos;"})
+        if (text.startsWith(known))
+            return true;
+    return false;
+}
+
+/// Goes over the text once, without recursion, and counts what it will become. Malformed text may be counted
+/// wrongly only where the parser stops at the same place.
 class MarkupScan
 {
 public:
@@ -25,7 +42,7 @@ public:
           m_end(text.end()),
           m_maximumNodes(
               std::min<std::ptrdiff_t>(MaximumNodes, NodesAtAnyLength + text.size() / CharactersPerNode)),
-          m_nodes(entityReferences(text))
+          m_countsEntities(text.size() > m_maximumNodes)
     {
     }
 
@@ -34,16 +51,16 @@ public:
         while (readText())
             if (!readMarkup() || m_depth > MaximumDepth || m_nodes > m_maximumNodes)
                 return false;
-        return true;
+        return m_nodes <= m_maximumNodes;
     }
 
 private:
-    std::ptrdiff_t entityReferences(QStringView text) const;
     bool readText();
+    void countEntities(const QChar* text);
     bool readMarkup();
     bool readSection();
     void readEndTag();
-    void readTag();
+    bool readTag();
     bool skip(QStringView expected);
     void skipPast(QStringView end);
     void skipPast(QChar end);
@@ -51,30 +68,35 @@ private:
     const QChar* m_next;
     const QChar* m_end;
     std::ptrdiff_t m_maximumNodes;
-    std::ptrdiff_t m_nodes;
+    bool m_countsEntities; ///< a text that is too short for too many nodes needs no count
+    std::ptrdiff_t m_nodes = 0;
     int m_depth = 0;
 };
-
-/// Each may be a node of its own. A text that is too short for too many nodes needs no count.
-std::ptrdiff_t MarkupScan::entityReferences(QStringView text) const
-{
-    return text.size() > m_maximumNodes ? std::count(text.begin(), text.end(), QLatin1Char('&')) : 0;
-}
 
 /// Up to and with the next "<". @return false at the end.
 bool MarkupScan::readText()
 {
-    const QChar* const start = m_next;
-    m_next = std::find(m_next, m_end, QLatin1Char('<'));
-    if (m_next == m_end)
-        return false;
+    const QChar* const start = std::find_if_not(m_next, m_end, isWhiteSpace); // alone it makes no node
+    m_next = std::find(start, m_end, QLatin1Char('<'));
     if (m_next != start)
         ++m_nodes;
+    if (m_countsEntities)
+        countEntities(start);
+    if (m_next == m_end)
+        return false;
     ++m_next;
     return true;
 }
 
-/// What follows a "<". @return false for a declaration.
+/// An entity that XML does not know makes a node, and parts the text before it from the text behind it.
+void MarkupScan::countEntities(const QChar* text)
+{
+    while ((text = std::find(text, m_next, QLatin1Char('&'))) != m_next)
+        if (!isCharacterReference(QStringView(++text, m_next)))
+            m_nodes += 2;
+}
+
+/// What follows a "<". @return false for a declaration, and for a tag of too many attributes.
 bool MarkupScan::readMarkup()
 {
     const QChar kind = m_next != m_end ? *m_next : QChar();
@@ -83,7 +105,7 @@ bool MarkupScan::readMarkup()
     else if (kind == QLatin1Char('!') || kind == QLatin1Char('?'))
         return readSection();
     else
-        readTag();
+        return readTag();
     return true;
 }
 
@@ -109,9 +131,10 @@ void MarkupScan::readEndTag()
 }
 
 /// A start tag or an empty element. Its quoted values may hold a ">" or a "=".
-void MarkupScan::readTag()
+/// @return false for too many attributes.
+bool MarkupScan::readTag()
 {
-    ++m_nodes;
+    int attributes = 0;
     QChar last;
     while (m_next != m_end && *m_next != QLatin1Char('>')) {
         last = *m_next++;
@@ -120,12 +143,16 @@ void MarkupScan::readTag()
         if (last == QLatin1Char('"') || last == QLatin1Char('\''))
             skipPast(last);
         else if (last == QLatin1Char('='))
-            m_nodes += 2; // an attribute and its value
+            ++attributes;
     }
     if (m_next != m_end)
         ++m_next;
     if (last != QLatin1Char('/'))
         ++m_depth;
+    ++m_nodes;
+    if (attributes > 0)
+        m_nodes += 2 * attributes + 1; // name and value, and the table of an element that has any
+    return attributes <= MaximumAttributes;
 }
 
 bool MarkupScan::skip(QStringView expected)
