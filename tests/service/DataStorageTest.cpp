@@ -60,12 +60,16 @@ void DataStorageTest::loginsInARow()
 {
     m_fixture->service().setReply("ServiceLogin", ScriptedReply::never());
     DataStorage session;
+    QString tokenUnderTheBox;
+    connect(&m_fixture->answerer(), &test::MessageBoxAnswerer::opened, &session,
+            [&] { tokenUnderTheBox = UserToken; });
     for (const QString token : {"token", "other", "", "again"}) {
         const int before = m_fixture->boxes().size();
         logIn(session, token);
         QCOMPARE(test::Envelope::read(m_fixture->service().requests("UserLogin").last().body).parameters,
                  (QStringList{"apiKey=", "userId=user@example.test", "password=secret"}));
         QCOMPARE(UserToken, token);
+        QCOMPARE(tokenUnderTheBox, token);
         QCOMPARE(m_fixture->boxes().size(), before + 1);
         const test::SeenMessageBox& box = m_fixture->boxes().last();
         QCOMPARE(box.text, QString(token.isEmpty() ? "Login is not successful." : "Login is successful."));

@@ -22,6 +22,7 @@ public:
     FatalWarnings& warnings() { return m_warnings; }
     ScriptedService& service() { return m_catalog.service(); }
     devcatalog::ConnectProxy& proxy() { return m_catalog.proxy(); }
+    const MessageBoxAnswerer& answerer() const { return m_boxes; }
     /// All boxes that opened, oldest first.
     const QVector<SeenMessageBox>& boxes() const { return m_boxes.boxes(); }
 

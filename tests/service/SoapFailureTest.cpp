@@ -8,6 +8,7 @@
 #include "tests/service/ServiceFixture.h"
 
 #include <QGridLayout>
+#include <QTextCodec>
 #include <QtTest>
 
 using test::ScriptedReply;
@@ -79,6 +80,8 @@ class SoapFailureTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// Of a host where bytes are not read as UTF-8 by default.
+    void initTestCase() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1")); }
     void init() { start(&test::TestCertificates::good); }
     void cleanup();
 
@@ -173,7 +176,9 @@ void SoapFailureTest::missingResources()
     test::ScriptedService& service = m_fixture->service();
     service.setReply("ServiceLogin", ScriptedReply::never());
     Askers askers;
+    setBundle(false); // what a session starts with has been sent before it is there
     QTRY_COMPARE(service.requests().size(), 1);
+    setBundle(true);
     if (!held.isEmpty()) {
         service.setReply(asked, ScriptedReply::result(asked, "text"));
         service.setReply(held, ScriptedReply::result(held, "text").held());
@@ -233,6 +238,9 @@ void SoapFailureTest::replies_data()
         "\xEF\xBB\xBF<?xml version='1.0' encoding='iso-8859-1'?><r><OPResult>\xC3\xA9</OPResult></r>",
         "\xC3\xA9");
     add("two results", xml, "<r><b><OPResult>first</OPResult></b><OPResult>2</OPResult></r>", "first");
+    add("an element in the result", xml, "<r><OPResult><b>x</b></OPResult></r>");
+    add("a comment before the text", xml, "<r><OPResult><!--c-->x</OPResult></r>", "c"); // the first child
+    add("text and section", xml, "<r><OPResult>x<![CDATA[y]]></OPResult></r>", "x");
     add("escaped text", xml, "<r><OPResult>a&lt;&#66;</OPResult></r>", "a<B");
 }
 
