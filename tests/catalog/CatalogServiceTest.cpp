@@ -18,6 +18,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 using devcatalog::CatalogServer;
@@ -227,14 +228,15 @@ void CatalogServiceTest::filesAreMadeOnceAndKept()
 /// As many as ten clients have open at a time wait for one slow part; who wants something else does not.
 void CatalogServiceTest::nobodyWaitsForAnother()
 {
-    std::promise<void> mayGo;
-    const std::shared_future<void> released = mayGo.get_future().share();
+    std::promise<void> promise;
+    const std::shared_future<void> released = promise.get_future().share();
     CatalogServerOptions options = m_fixture->options();
     options.beforeReply = [released](const devcatalog::HttpRequest& request, devcatalog::HttpReply&) {
         if (request.path().startsWith("/Thumbnails/"))
             released.wait();
     };
     CatalogServer server(options);
+    std::promise<void> mayGo = std::move(promise); // also when the test fails, before the server's end
     server.start();
     const test::CatalogClient client(server.port(), QString::fromStdString(server.caFile().string()));
 
