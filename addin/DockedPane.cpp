@@ -29,8 +29,8 @@ QWidget* widgetOf(pvCustomPropertyControl_c* control)
 
 QFrame* createCorner(pvApplication_c* application)
 {
-    // The value of left, leading and vertically centred alignment, where a stretch factor belongs; without
-    // effect on an only item.
+    // 129 is the value of Qt::AlignLeft | Qt::AlignVCenter, passed as the stretch factor. A layout with one
+    // item takes no notice of it.
     constexpr int stretch = 129;
 
     auto* corner = new QFrame;

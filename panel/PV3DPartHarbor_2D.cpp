@@ -66,7 +66,8 @@ void PV3DPartHarbor_2D::buildSearchRow()
     m_searchLine->setAccessibleName(QLatin1String("Search term"));
     m_searchLine->setMinimumHeight(25);
     m_searchLine->setStyleSheet(QLatin1String("QLineEdit{margin-right : 30px;}"));
-    // The span of 129 columns makes the line and the button overlap.
+    // 129 is the value of Qt::AlignLeft | Qt::AlignVCenter, passed as the column span. With it the button,
+    // which begins a column later, lies over the end of the line.
     grid->addWidget(m_searchLine, 0, 0, 1, 129);
 
     m_searchButton = new QPushButton;

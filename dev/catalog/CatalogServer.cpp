@@ -130,7 +130,7 @@ void CatalogServer::record(const RequestRecord& request)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_requests.push_back(request);
-    if (m_requests.size() > maxRecords)
+    if (m_requests.size() > MaximumRecords)
         m_requests.pop_front();
     if (m_options.log)
         m_options.log(logLine(request));

@@ -85,7 +85,7 @@ public:
 
 private:
     class Service;
-    static constexpr std::size_t maxRecords = 10000;
+    static constexpr std::size_t MaximumRecords = 10000;
 
     void record(const RequestRecord& request);
 

@@ -9,7 +9,8 @@ namespace dwg
 /// "Normal" and the multiline style "STANDARD". The layouts are written with their spaces.
 void addDictionaries(Records& records);
 
-/// Begins an object that a dictionary owns and is told of when it changes.
+/// Begins an object that a dictionary owns. Programs that read the file tell the dictionary when the object
+/// changes.
 Object beginDictionaryItem(ObjectType type, Handle handle, Handle dictionary);
 
 } // namespace dwg

@@ -31,7 +31,7 @@ void spoil(std::string& file, CatalogFaults::Drawings drawings)
         std::generate(file.begin(), file.end(), [] { return static_cast<char>(randomNumber(255)); });
 }
 
-/// Spoils and delays a reply as told; called in one of the catalog's threads.
+/// Spoils and delays a reply as the options ask for; called in one of the catalog's threads.
 void inject(const CatalogFaults& faults, devcatalog::HttpReply& reply)
 {
     constexpr int longestDelay = 300; // Milliseconds.

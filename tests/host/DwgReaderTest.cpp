@@ -84,7 +84,7 @@ void DwgReaderTest::readsLinesWithLineTypesAndColours()
     };
     const BlockPath outline = pathOf(LineType::Continuous);
     QCOMPARE(outline.points, (QVector<QPointF>{{-1.0, 0.0}, {4.0, 2.5}}));
-    QCOMPARE(outline.rgb, BlockPath::foreground);
+    QCOMPARE(outline.rgb, BlockPath::Foreground);
 
     const BlockPath circle = pathOf(LineType::Hidden);
     QCOMPARE(circle.points.first(), circle.points.last());

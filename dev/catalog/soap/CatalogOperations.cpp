@@ -94,7 +94,7 @@ void CatalogOperations::search(const RequestValues& values, pugi::xml_node resul
 /// catalog's own number, 6 the description, 7 the picture and 16 the supplier.
 void CatalogOperations::addSearchItem(pugi::xml_node items, const Part& part) const
 {
-    const std::string size = std::to_string(CatalogSite::thumbnailSize);
+    const std::string size = std::to_string(CatalogSite::ThumbnailSize);
     const std::pair<const char*, std::string> fields[] = {
         {"DisplayName", " " + part.name},
         {"ItemNumber", std::to_string(&part - m_catalog.parts().data())},

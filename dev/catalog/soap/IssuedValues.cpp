@@ -9,7 +9,7 @@ std::string IssuedTexts::issue()
 {
     std::string text = randomHex(32);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_inOrder.size() == maxRemembered) {
+    if (m_inOrder.size() == MaximumRemembered) {
         m_texts.erase(m_inOrder.front());
         m_inOrder.pop_front();
     }

@@ -19,7 +19,7 @@ public:
     bool isIssued(const std::string& text) const;
 
 private:
-    static constexpr std::size_t maxRemembered = 4096; ///< then the oldest is forgotten
+    static constexpr std::size_t MaximumRemembered = 4096; ///< then the oldest is forgotten
 
     mutable std::mutex m_mutex;
     std::deque<std::string> m_inOrder;

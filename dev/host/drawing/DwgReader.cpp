@@ -76,7 +76,7 @@ quint32 rgbOf(const QString& color)
 {
     bool valid = false;
     const quint32 rgb = color.mid(1, 6).toUInt(&valid, 16);
-    return valid ? rgb : BlockPath::foreground;
+    return valid ? rgb : BlockPath::Foreground;
 }
 
 bool isUsable(double coordinate)

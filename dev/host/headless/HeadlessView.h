@@ -11,7 +11,8 @@
 namespace devhost
 {
 
-/// The user interface of a host without a window: panes are plain native widgets, prompts answer as told.
+/// The user interface of a host without a window: panes are plain native widgets, prompts answer as the test
+/// has set them.
 class HeadlessView : public HostView
 {
 public:

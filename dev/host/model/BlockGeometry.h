@@ -12,10 +12,10 @@ enum class LineType { Continuous, Hidden, Centre };
 struct BlockPath {
     QVector<QPointF> points;
     LineType lineType = LineType::Continuous;
-    quint32 rgb = foreground; ///< 0xRRGGBB.
+    quint32 rgb = Foreground; ///< 0xRRGGBB.
 
     /// The colour that stands for black on white and white on black.
-    static constexpr quint32 foreground = 0xFFFFFF;
+    static constexpr quint32 Foreground = 0xFFFFFF;
 };
 
 /// What a block draws, around its insertion base point (0, 0).

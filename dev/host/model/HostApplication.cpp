@@ -141,7 +141,7 @@ pvResult HostApplication::CreateUserCommand(const pvString& appID, const pvStrin
 pvResult HostApplication::GetMenuItems(pvUIState_e uiState, pvObjectPtrArray* menus)
 {
     const SdkCall answer = call("GetMenuItems", uiState);
-    return answer.giveList(menus, uiState == menuBarState ? m_menus : HostList<HostMenuItem>());
+    return answer.giveList(menus, uiState == MenuBarState ? m_menus : HostList<HostMenuItem>());
 }
 
 pvResult HostApplication::GetWorkspace(const pvString& name, pvWorkspace_c** workspace)

@@ -24,7 +24,7 @@ class HostApplication final : public HostObject<pvApplication_c>
 {
 public:
     /// UI state whose menus the host shows.
-    static constexpr int menuBarState = 2;
+    static constexpr int MenuBarState = 2;
 
     /// @param view does what needs a user interface; it must outlive the application.
     explicit HostApplication(HostView& view);

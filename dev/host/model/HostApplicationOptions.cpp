@@ -13,7 +13,7 @@ pvResult HostApplicationOptions::GetApplicationOptionInt16(pvApplicationOptionIn
                                                            pvGetApplicationOptionResult_e* result)
 {
     const SdkCall answer = call("GetApplicationOptionInt16", option);
-    const bool known = option == colourTheme;
+    const bool known = option == ColourTheme;
     answer.giveValue(result, static_cast<pvGetApplicationOptionResult_e>(known ? 0 : 1));
     if (!known)
         return answer.result(false);

@@ -13,7 +13,7 @@ class HostApplicationOptions final : public HostObject<pvApplicationOptions_c>
 {
 public:
     /// Number of the colour theme option: 0 = light, 1 = dark.
-    static constexpr int colourTheme = 48;
+    static constexpr int ColourTheme = 48;
 
     HostApplicationOptions(std::shared_ptr<HostContext> context,
                            std::shared_ptr<const HostSettings> settings);

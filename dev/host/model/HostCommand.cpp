@@ -17,7 +17,7 @@ bool HostCommand::execute()
 pvResult HostCommand::RegisterEvent(pvCommandEvent_id_e event, void* context, void* hook)
 {
     const SdkCall answer = call("RegisterEvent", event, context, hook);
-    const bool known = event == executeEvent;
+    const bool known = event == ExecuteEvent;
     if (known && answer.takesEffect()) {
         m_hook = reinterpret_cast<Hook>(hook);
         m_hookContext = context;

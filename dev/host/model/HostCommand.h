@@ -12,7 +12,7 @@ class HostCommand final : public HostObject<pvCommand_c>
 {
 public:
     /// Event number of a command's execution.
-    static constexpr int executeEvent = 1;
+    static constexpr int ExecuteEvent = 1;
 
     HostCommand(std::shared_ptr<HostContext> context, const QString& name, QString appID);
 

@@ -46,8 +46,9 @@ public:
     /// @return what the drawing file draws; nothing when it cannot be read.
     virtual std::optional<BlockGeometry> readBlock(const QString& file) = 0;
 
-    /// Both: @return whether the help was opened.
+    /// @return whether the help was opened.
     virtual bool openWebHelp(const QString& address) = 0;
+    /// @return whether the help was opened.
     virtual bool openHelpFile(const QString& file, long topic) = 0;
 };
 

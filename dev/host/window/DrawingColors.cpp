@@ -17,7 +17,7 @@ DrawingColors DrawingColors::dark()
 
 QColor DrawingColors::ofLine(quint32 rgb) const
 {
-    if (rgb == BlockPath::foreground)
+    if (rgb == BlockPath::Foreground)
         return foreground;
     constexpr int readableDifference = 90; // Of 255, in lightness.
     QColor color = QColor::fromRgb(rgb);

@@ -17,7 +17,7 @@ struct DrawingColors {
     static DrawingColors light();
     static DrawingColors dark();
 
-    /// @param rgb 0xRRGGBB, BlockPath::foreground for the foreground.
+    /// @param rgb 0xRRGGBB, BlockPath::Foreground for the foreground.
     /// @return the colour, made to stand out from the background where it would not.
     QColor ofLine(quint32 rgb) const;
 };
