@@ -1,7 +1,6 @@
 #include "dev/catalog/CatalogSite.h"
 #include "dev/catalog/FileCache.h"
 #include "dev/catalog/drawings/PartDrawing.h"
-#include "dev/catalog/soap/WireContract.h"
 #include "dev/dwg/Writer.h"
 #include "tests/catalog/CatalogFixture.h"
 #include "tests/support/FatalWarnings.h"

@@ -1,6 +1,5 @@
 #include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/catalog/parts/PartCatalog.h"
-#include "dev/catalog/soap/WireContract.h"
 #include "dev/dwg/DrawingCheck.h"
 #include "dev/dwg/DrawingExtents.h"
 #include "tests/catalog/DrawingPieces.h"
@@ -166,7 +165,7 @@ void PartDrawingTest::everyFamilyDrawsEveryView()
     // thread is left open.
     const bool hasLooseEnds =
         QStringList{"compression-spring", "bridge-handle", "hex-nut"}.contains(part->family.c_str());
-    for (const std::string_view wireName : DrawingViews) {
+    for (const std::string_view wireName : drawingViews()) {
         const std::string view(wireName);
         const auto drawing = drawPart(*part, part->configurations.back(), view);
         const auto& unsupported = part->unsupportedViews;

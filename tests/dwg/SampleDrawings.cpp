@@ -2,7 +2,6 @@
 
 #include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/catalog/parts/PartCatalog.h"
-#include "dev/catalog/soap/WireContract.h"
 
 #include <set>
 #include <string_view>
@@ -95,7 +94,7 @@ void addPartDrawings(std::vector<SampleDrawing>& samples)
     const PartCatalog catalog;
     std::set<std::string> names;
     for (const Part& part : catalog.parts()) {
-        for (const std::string_view view : DrawingViews) {
+        for (const std::string_view view : drawingViews()) {
             const std::string name = part.family + '-' + std::string(view);
             if (names.count(name) != 0)
                 continue;

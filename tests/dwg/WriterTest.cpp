@@ -40,14 +40,14 @@ public:
     {
         GDALAllRegister();
         auto* data = reinterpret_cast<GByte*>(m_bytes.data());
-        VSIFCloseL(VSIFileFromMemBuffer(path, data, m_bytes.size(), FALSE));
+        VSIFCloseL(VSIFileFromMemBuffer(FilePath, data, m_bytes.size(), FALSE));
         const char* const drivers[] = {"CAD", nullptr};
-        m_dataset.reset(GDALDataset::Open(path, GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers));
+        m_dataset.reset(GDALDataset::Open(FilePath, GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers));
     }
     ~GdalDrawing()
     {
         m_dataset.reset();
-        VSIUnlink(path);
+        VSIUnlink(FilePath);
     }
     GdalDrawing(const GdalDrawing&) = delete;
     GdalDrawing& operator=(const GdalDrawing&) = delete;
@@ -57,7 +57,7 @@ public:
     explicit operator bool() const { return m_dataset != nullptr; }
 
 private:
-    static constexpr const char* path = "/vsimem/drawing.dwg";
+    static constexpr const char* FilePath = "/vsimem/drawing.dwg";
 
     std::string m_bytes;
     std::unique_ptr<GDALDataset> m_dataset;

@@ -8,7 +8,6 @@
 #include <QBuffer>
 
 #include <algorithm>
-#include <map>
 #include <stdexcept>
 
 namespace devcatalog
@@ -95,27 +94,49 @@ std::vector<dwg::Entity> arrangedViews(const Solid& solid, bool withPicture)
     return entities;
 }
 
-std::optional<std::vector<dwg::Entity>> draw(const Solid& solid, std::string_view view)
+template <Camera (*camera)()>
+std::vector<dwg::Entity> drawFrom(const Solid& solid)
 {
-    using CameraMaker = Camera (*)();
-    static const std::map<std::string_view, CameraMaker> cameras = {
-        {"eDrawingView_FRONT", Camera::frontView},         {"eDrawingView_TOP", Camera::topView},
-        {"eDrawingView_RIGHT", Camera::rightView},         {"eDrawingView_BACK", Camera::backView},
-        {"eDrawingView_BOTTOM", Camera::bottomView},       {"eDrawingView_LEFT", Camera::leftView},
-        {"eDrawingView_ISOMETRIC", Camera::isometricView}, {"eDrawingView_DIMETRIC", Camera::dimetricView},
-        {"eDrawingView_TRIMETRIC", Camera::trimetricView},
-    };
-    const auto camera = cameras.find(view);
-    if (camera != cameras.end())
-        return drawView(solid, camera->second());
-    if (view == "eDrawingView_PREDEFINED")
-        return drawView(solid, cameraFor(solid.telling));
-    if (view == "eDrawingView_MULTI" || view == "eDrawingView_4VIEW")
-        return arrangedViews(solid, view == "eDrawingView_4VIEW");
+    return drawView(solid, camera());
+}
+
+struct View {
+    std::string_view wireName;
+    std::vector<dwg::Entity> (*draw)(const Solid& solid);
+};
+
+constexpr View Views[] = {
+    {"eDrawingView_PREDEFINED", [](const Solid& solid) { return drawView(solid, cameraFor(solid.telling)); }},
+    {"eDrawingView_4VIEW", [](const Solid& solid) { return arrangedViews(solid, true); }},
+    {"eDrawingView_MULTI", [](const Solid& solid) { return arrangedViews(solid, false); }},
+    {"eDrawingView_FRONT", drawFrom<Camera::frontView>},
+    {"eDrawingView_TOP", drawFrom<Camera::topView>},
+    {"eDrawingView_RIGHT", drawFrom<Camera::rightView>},
+    {"eDrawingView_BACK", drawFrom<Camera::backView>},
+    {"eDrawingView_BOTTOM", drawFrom<Camera::bottomView>},
+    {"eDrawingView_LEFT", drawFrom<Camera::leftView>},
+    {"eDrawingView_ISOMETRIC", drawFrom<Camera::isometricView>},
+    {"eDrawingView_DIMETRIC", drawFrom<Camera::dimetricView>},
+    {"eDrawingView_TRIMETRIC", drawFrom<Camera::trimetricView>},
+};
+
+std::optional<std::vector<dwg::Entity>> draw(const Solid& solid, std::string_view wireName)
+{
+    for (const View& view : Views)
+        if (view.wireName == wireName)
+            return view.draw(solid);
     return std::nullopt;
 }
 
 } // namespace
+
+std::vector<std::string_view> drawingViews()
+{
+    std::vector<std::string_view> names;
+    for (const View& view : Views)
+        names.push_back(view.wireName);
+    return names;
+}
 
 std::optional<dwg::Drawing> drawPart(const Part& part, const Configuration& configuration,
                                      std::string_view view)

@@ -6,9 +6,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace devcatalog
 {
+
+/// @return the wire names of the views that can be asked for.
+std::vector<std::string_view> drawingViews();
 
 /// Draws a part in one view, from its own dimensions.
 /// @param view wire name, for example "eDrawingView_FRONT".

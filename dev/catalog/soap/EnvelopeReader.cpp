@@ -1,5 +1,6 @@
 #include "dev/catalog/soap/EnvelopeReader.h"
 
+#include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/catalog/soap/SoapFault.h"
 #include "dev/catalog/soap/XmlText.h"
 
@@ -126,6 +127,12 @@ std::string readText(pugi::xml_node element)
     return content.value();
 }
 
+bool isView(std::string_view text)
+{
+    const std::vector<std::string_view> views = drawingViews();
+    return std::find(views.begin(), views.end(), text) != views.end();
+}
+
 bool isWholeNumber(std::string_view text)
 {
     std::int32_t number = 0;
@@ -184,8 +191,7 @@ void EnvelopeReader::checkValue(const RequestElement& element, const std::string
         require(isWholeNumber(value), element, "a whole number");
         break;
     case ValueRule::View:
-        require(std::find(DrawingViews.begin(), DrawingViews.end(), value) != DrawingViews.end(), element,
-                "the name of a drawing view");
+        require(isView(value), element, "the name of a drawing view");
         break;
     case ValueRule::SessionId:
         checkIssued(element, m_issued.sessionIds, value);

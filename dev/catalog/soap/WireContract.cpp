@@ -3,12 +3,6 @@
 namespace devcatalog
 {
 
-const std::array<std::string_view, 12> DrawingViews{
-    "eDrawingView_PREDEFINED", "eDrawingView_4VIEW",     "eDrawingView_MULTI",    "eDrawingView_FRONT",
-    "eDrawingView_TOP",        "eDrawingView_RIGHT",     "eDrawingView_BACK",     "eDrawingView_BOTTOM",
-    "eDrawingView_LEFT",       "eDrawingView_ISOMETRIC", "eDrawingView_DIMETRIC", "eDrawingView_TRIMETRIC",
-};
-
 std::vector<Operation> wireContract(const ServiceAccount& account)
 {
     const std::string admin = "/ContentWS/adminws.asmx";

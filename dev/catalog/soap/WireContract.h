@@ -2,9 +2,7 @@
 
 #include "dev/catalog/Accounts.h"
 
-#include <array>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace devcatalog
@@ -17,7 +15,7 @@ enum class ValueRule {
     Text,        ///< any text but a placeholder that was left in place
     Nothing,     ///< no content at all
     WholeNumber, ///< decimal digits, a minus before them where it is below zero
-    View,        ///< one of the twelve views
+    View,        ///< one of drawingViews()
     SessionId,   ///< issued by ServiceLogin
     ApiKey,      ///< issued by GenerateApiKeyByDescription
     UserToken,   ///< issued by UserLogin
@@ -38,8 +36,5 @@ struct Operation {
 
 /// Everything that clients may post, in one table.
 std::vector<Operation> wireContract(const ServiceAccount& account);
-
-/// The wire names of the drawing views.
-extern const std::array<std::string_view, 12> DrawingViews;
 
 } // namespace devcatalog
