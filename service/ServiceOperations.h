@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "service/ServiceAddress.h"
 
 /// One operation of the catalog service: what is sent where, and which element of the reply carries the
 /// result. The order and the fixed values of a request's elements are its template's.
@@ -13,10 +13,13 @@ struct ServiceOperation {
 };
 
 // The operations that are sent. (ModelDetail.xml, GetModelDetail, is in the bundle and has no sender.)
-extern const ServiceOperation ServiceLoginOperation;
-extern const ServiceOperation GenerateApiKeyOperation;
-extern const ServiceOperation UserLoginOperation;
-extern const ServiceOperation SearchOperation;
-extern const ServiceOperation GetConfigInfoOperation;
-extern const ServiceOperation GetConfigParamsOperation;
-extern const ServiceOperation GetDownload2DOperation;
+// clang-format off
+//                                                         name                           template            document      endpoint            result element
+inline constexpr ServiceOperation ServiceLoginOperation    {"ServiceLogin",                "TokenXMLFile.xml",  "mydocument", ContentServiceUrl,  "ServiceLoginResult"};
+inline constexpr ServiceOperation GenerateApiKeyOperation  {"GenerateApiKeyByDescription", "APIKeyXML.xml",     "APIKeyXML",  AdminServiceUrl,    "GenerateApiKeyByDescriptionResult"};
+inline constexpr ServiceOperation UserLoginOperation       {"UserLogin",                   "Login.xml",         "mydocument", ExternalServiceUrl, "UserLoginResult"};
+inline constexpr ServiceOperation SearchOperation          {"SimpleSearchAcrossCatalogs",  "Searchcatalog.xml", "mydocument", ExternalServiceUrl, "ISearchItem"};
+inline constexpr ServiceOperation GetConfigInfoOperation   {"GetConfigInfo",               "ConfigInfo.xml",    "mydocument", ExternalServiceUrl, "IConfiguration"};
+inline constexpr ServiceOperation GetConfigParamsOperation {"GetConfigParams",             "ConfigParams.xml",  "mydocument", ExternalServiceUrl, "IInputParameter"};
+inline constexpr ServiceOperation GetDownload2DOperation   {"GetDownload2D",               "download.xml",      "mydocument", ExternalServiceUrl, "GetDownload2DResult"};
+// clang-format on

@@ -120,11 +120,12 @@ void ResourceBundleTest::requestTemplatesHaveTheirExactForm()
         {"download.xml", 922},      {"ModelDetail.xml", 495},  {"output.xml", 0},
     };
     const QByteArray host = test::ScriptedCatalog::host().toUtf8();
-    const QStringList names = filesBelow(":/3DPH").filter(".xml");
-    QCOMPARE(names.size(), sizes.size());
-    for (const QString& name : names) {
+    for (auto size = sizes.cbegin(); size != sizes.cend(); ++size) {
+        const QByteArray bytes = contents(":/3DPH/" + size.key());
+        QCOMPARE(bytes.size() + bytes.count(host) * (24 - host.size()), size.value());
+    }
+    for (const QString& name : filesBelow(":/3DPH").filter(".xml")) {
         QByteArray bytes = contents(":/3DPH/" + name);
-        QCOMPARE(bytes.size() + bytes.count(host) * (24 - host.size()), sizes.value(name, -1));
         QVERIFY2(!bytes.endsWith('\n'), qPrintable(name));
         bytes.replace("\r\n", "");
         QVERIFY2(!bytes.contains('\n') && !bytes.contains('\r') && !bytes.contains('@'), qPrintable(name));
