@@ -15,14 +15,14 @@ namespace
 {
 
 // What a user sees of the add-in, in the order of effectsOfAScenario().
-const QString command = "command toggles the pane";
+const QString Command = "command toggles the pane";
 const QString LightIcon = "light icon";
 const QString MenuEntry = "menu entry";
 const QString Button = "ribbon button";
 const QString Binding = "entry and button run the user command";
 const QString HelpFile = "help file";
 const QString WebHelp = "web help";
-const QString login = "login";
+const QString Login = "login";
 const QString Prompt = "prompt";
 const QString Block = "block";
 const QString CleanEnd = "nothing left in the host";
@@ -33,14 +33,14 @@ struct Failure {
     QStringList lost;
 };
 
-const QStringList All{command, LightIcon, MenuEntry, Button, Binding, HelpFile,
-                      WebHelp, login,     Prompt,    Block,  CleanEnd};
-const QStringList Panel{HelpFile, WebHelp, login, Prompt, Block};
+const QStringList All{Command, LightIcon, MenuEntry, Button, Binding, HelpFile,
+                      WebHelp, Login,     Prompt,    Block,  CleanEnd};
+const QStringList Panel{HelpFile, WebHelp, Login, Prompt, Block};
 
 const Failure Failures[] = {
     {"GetLanguage", {}},
-    {"CreateCommand", {command}},
-    {"Command.RegisterEvent", {command}},
+    {"CreateCommand", {Command}},
+    {"Command.RegisterEvent", {Command}},
     {"GetApplicationOptions", {LightIcon}},
     {"ApplicationOptions.GetApplicationOptionInt16", {}},
     {"CreateUserCommand", {LightIcon, Binding}},
@@ -61,10 +61,10 @@ const Failure Failures[] = {
     {"RibbonRow.GetRibbonRowItems", {}}, // the host removes what was left of the registrations
     {"RibbonRowItem.GetApiID", {}},
     {"RibbonRowItem.Remove", {}},
-    {"CreateCustomPropertyControl2", QStringList{command} + Panel},
+    {"CreateCustomPropertyControl2", QStringList{Command} + Panel},
     {"CustomPropertyControl.GetHWND", Panel},
-    {"CustomPropertyControl.get_Visible", {command}},
-    {"CustomPropertyControl.put_Visible", {command}},
+    {"CustomPropertyControl.get_Visible", {Command}},
+    {"CustomPropertyControl.put_Visible", {Command}},
     {"CustomPropertyControl.Destroy", {CleanEnd}},
     {"IsWebHelpEnabled", {WebHelp}},
     {"GetWebLink", {}},
@@ -157,7 +157,7 @@ void FailingHostTest::prepareCatalog()
 QStringList FailingHostTest::effectsOfAScenario()
 {
     m_addIn->connect();
-    note(toggles() && toggles(), command);
+    note(toggles() && toggles(), Command);
     lookAtRegistrations();
     if (m_addIn->view().paneWidget() != nullptr)
         m_addIn->view().paneWidget()->show(); // by the user
@@ -215,7 +215,7 @@ void FailingHostTest::logIn()
     QTest::keyClicks(m_addIn->shown("QLineEdit", "Pass_lineEdit_2"), "secret");
     QTest::mouseClick(m_addIn->shown("QPushButton", "LogIn_pushButton"), Qt::LeftButton);
     QVERIFY(test::waitUntil([this] { return m_addIn->answerer().boxes().size() == 1; }));
-    note(m_addIn->answerer().boxes().last().text == "Login is successful.", login);
+    note(m_addIn->answerer().boxes().last().text == "Login is successful.", Login);
 }
 
 void FailingHostTest::placeABlock()

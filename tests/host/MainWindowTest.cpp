@@ -28,7 +28,7 @@ using devhost::MainWindow;
 namespace
 {
 
-const pvString appID(L"APP");
+const pvString AppID(L"APP");
 
 bool countRun(void* context)
 {
@@ -140,7 +140,7 @@ void MainWindowTest::type(const QString& text)
 void MainWindowTest::registerCommand(const wchar_t* name, int* runs)
 {
     pvCommand_c* command = nullptr;
-    m_window->host().CreateCommand(appID, name, nullptr, &command);
+    m_window->host().CreateCommand(AppID, name, nullptr, &command);
     command->RegisterEvent(pvCommandEvent_id_e(1), runs, reinterpret_cast<void*>(&countRun));
 }
 
@@ -303,13 +303,13 @@ void MainWindowTest::userCommandShowsOnMenuAndRibbon()
     devhost::HostApplication& host = m_window->host();
     const pvString iconPath(icon.toStdWString().c_str());
     pvUserCommand_c* userCommand = nullptr;
-    host.CreateUserCommand(appID, L"PARTS", L"^C^CPARTS", L"Finds parts", iconPath, iconPath, pvUIState_e(2),
+    host.CreateUserCommand(AppID, L"PARTS", L"^C^CPARTS", L"Finds parts", iconPath, iconPath, pvUIState_e(2),
                            nullptr, &userCommand);
     pvString id;
     userCommand->GetID(&id);
-    host.menus().objects().at(4)->InsertMenuItem(appID, pvMenuItemType_e(2), 3, L"Parts entry", id, nullptr);
+    host.menus().objects().at(4)->InsertMenuItem(AppID, pvMenuItemType_e(2), 3, L"Parts entry", id, nullptr);
     const auto tab = host.workspaces().objects().front()->tabs().objects().back();
-    tab->panels().objects().front()->row()->InsertRibbonCommandButton(appID, pvRibbonButtonStyle_e(1),
+    tab->panels().objects().front()->row()->InsertRibbonCommandButton(AppID, pvRibbonButtonStyle_e(1),
                                                                       L"Parts button", id, nullptr);
 
     auto* menu = m_window->findChild<QMenu*>("ID_Import");
@@ -329,7 +329,7 @@ void MainWindowTest::userCommandShowsOnMenuAndRibbon()
     QCOMPARE(int(place(m_file, [&] { button->click(); }).result), int(BlockPromptAnswer::Cancelled));
     QCOMPARE(runs, 3);
 
-    host.RemoveUserInterface(appID);
+    host.RemoveUserInterface(AppID);
     QVERIFY(m_window->findChild<QToolButton*>("UserCommand_PARTS") == nullptr);
     QCOMPARE(m_window->findChild<QMenu*>("ID_Import")->actions().size(), 5);
     QCOMPARE(m_window->findChild<QPlainTextEdit*>("journalText")->toPlainText(),

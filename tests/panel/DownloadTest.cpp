@@ -21,7 +21,7 @@ namespace
 
 const QByteArray Drawing = "AC1015 a drawing";
 const QString DrawingPath = "/files/part.dwg";
-const BlockPromptAnswer accepted{BlockPromptAnswer::Accepted, {1, 2, 3, 4, 5, 6, 7}};
+const BlockPromptAnswer AcceptedAnswer{BlockPromptAnswer::Accepted, {1, 2, 3, 4, 5, 6, 7}};
 
 void writeFile(const QString& name, const QByteArray& content)
 {
@@ -134,7 +134,7 @@ void DownloadTest::drawingIsInserted()
     QString cited;
     m_panel->view().answerPrompts([&cited](const BlockPrompt& prompt) {
         cited = '"' + prompt.file + '"';
-        return accepted;
+        return AcceptedAnswer;
     });
     m_panel->clickPreview();
     QTRY_COMPARE(insertions().size(), 1);
@@ -383,14 +383,14 @@ void DownloadTest::newestDrawingWaitsForThePrompt()
     QStringList during;
     m_panel->view().answerPrompts([&](const BlockPrompt&) {
         if (prompted().size() > 1)
-            return accepted;
+            return AcceptedAnswer;
         for (const int row : {1, 2}) {
             if (otherPages)
                 openAnother(row);
             downloadAnother();
         }
         during = m_panel->files();
-        return accepted;
+        return AcceptedAnswer;
     });
     m_panel->clickPreview();
     QTRY_COMPARE(prompted(), QStringList({"part0.dwg", "part2.dwg"}));
@@ -408,12 +408,12 @@ void DownloadTest::newerClickDropsAWaitingDrawing()
 {
     m_panel->view().answerPrompts([&](const BlockPrompt&) {
         if (prompted().size() > 1)
-            return accepted;
+            return AcceptedAnswer;
         downloadAnother();
         m_panel->service().enqueue(DrawingPath, pictureReply(Drawing).heldAfter(5));
         m_panel->clickPreview();
         [this] { QTRY_COMPARE(m_panel->service().heldCount(), 1); }();
-        return accepted;
+        return AcceptedAnswer;
     });
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->files(), QStringList("part2.dwg"));
@@ -470,7 +470,7 @@ void DownloadTest::closingUnderThePrompt()
             m_panel->closePane();
         else
             m_panel->host().closeActiveDocument();
-        return accepted;
+        return AcceptedAnswer;
     });
     m_panel->clickPreview();
     QTRY_COMPARE(prompted(), QStringList("part0.dwg"));

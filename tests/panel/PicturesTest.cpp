@@ -20,7 +20,7 @@ namespace
 {
 
 const QString PicturePath = "/pictures/part.png";
-constexpr QSize pictureSize(60, 90);
+constexpr QSize PictureSize(60, 90);
 
 QPixmap pictureOf(const QLabel* label)
 {
@@ -28,7 +28,7 @@ QPixmap pictureOf(const QLabel* label)
 }
 
 /// @return a red picture as a file of that format.
-QByteArray picture(const char* format, const QSize& size = pictureSize, const QString& comment = QString())
+QByteArray picture(const char* format, const QSize& size = PictureSize, const QString& comment = QString())
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -126,10 +126,10 @@ void PicturesTest::thumbnails_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QSize>("size");
     for (const char* format : {"PNG", "JPG", "BMP"})
-        QTest::addRow("%s", format) << picture(format) << pictureSize;
-    QTest::addRow("bitmap from its top") << topDownBitmap() << pictureSize;
+        QTest::addRow("%s", format) << picture(format) << PictureSize;
+    QTest::addRow("bitmap from its top") << topDownBitmap() << PictureSize;
     QTest::addRow("texts are not read")
-        << picture("PNG", pictureSize, QString(10'000'000, 'x')) << pictureSize;
+        << picture("PNG", PictureSize, QString(10'000'000, 'x')) << PictureSize;
     QTest::addRow("as large as may be") << picture("PNG", {1024, 1024}) << QSize(1024, 1024);
     QTest::addRow("reduced") << picture("PNG", {4000, 4000}) << QSize(1024, 1024);
     QTest::addRow("line") << picture("PNG", {100000, 1}) << QSize(1024, 1);

@@ -15,7 +15,7 @@
 namespace
 {
 
-const QUrl site("https://" + test::ScriptedCatalog::host() + "/ContentWS/");
+const QUrl Site("https://" + test::ScriptedCatalog::host() + "/ContentWS/");
 
 QDateTime inDays(int days)
 {
@@ -118,9 +118,9 @@ void CookieJarTest::sitesThatMaySetCookies_data()
     QTest::addColumn<QByteArray>("list");
     QTest::addColumn<QStringList>("hosts");
     QTest::addColumn<QByteArray>("stored");
-    const QString host = site.host();
+    const QString host = Site.host();
     const QStringList exact{"zone.test", host, "another.test"};
-    const QStringList near{host.section('.', 1), '.' + host, host.toUpper(), "a." + host, site.authority()};
+    const QStringList near{host.section('.', 1), '.' + host, host.toUpper(), "a." + host, Site.authority()};
     const auto add = [](const QByteArray& policy, const QByteArray& list, const QStringList& hosts,
                         const QByteArray& stored) {
         QTest::addRow("%s, %s %s", policy.data(), list.data(), qPrintable(hosts.join(' ')))
@@ -153,28 +153,28 @@ void CookieJarTest::sitesThatMaySetCookies()
     QCOMPARE(jar.property(list.constData()).toStringList(), hosts);
     QCOMPARE(changed.size(), 0);
     if (policy == "AcceptNever")
-        jar.setBlockedCookies({site.host()}); // which are not asked then
+        jar.setBlockedCookies({Site.host()}); // which are not asked then
 
     QNetworkCookie foreign = cookie("foreign");
     foreign.setDomain("elsewhere.test");
-    QCOMPARE(jar.setCookiesFromUrl({cookie("a"), foreign, cookie("b")}, site), !stored.isEmpty());
+    QCOMPARE(jar.setCookiesFromUrl({cookie("a"), foreign, cookie("b")}, Site), !stored.isEmpty());
     QCOMPARE(jar.names(), stored);
     QCOMPARE(changed.size(), stored.isEmpty() ? 0 : 1);
     jar.setAllCookies({});
-    QCOMPARE(jar.setCookiesFromUrl({foreign}, site), stored.contains("foreign"));
+    QCOMPARE(jar.setCookiesFromUrl({foreign}, Site), stored.contains("foreign"));
 }
 
 void CookieJarTest::timeLimit()
 {
     const QList<QNetworkCookie> cookies{cookie("a", inDays(365)), cookie("b", inDays(30)), cookie("c")};
     OpenJar jar;
-    QVERIFY(jar.setCookiesFromUrl(cookies, site));
+    QVERIFY(jar.setCookiesFromUrl(cookies, Site));
     QCOMPARE(jar.allCookies().at(0).expirationDate(), cookies.at(0).expirationDate());
 
     jar.clear();
     QVERIFY(jar.setProperty("keepPolicy", "KeepUntilTimeLimit"));
     const QDateTime earliest = inDays(90);
-    QVERIFY(jar.setCookiesFromUrl(cookies, site));
+    QVERIFY(jar.setCookiesFromUrl(cookies, Site));
     const QDateTime limited = jar.allCookies().at(0).expirationDate();
     QVERIFY(earliest <= limited && limited <= inDays(90));
     QCOMPARE(jar.allCookies().at(1).expirationDate(), cookies.at(1).expirationDate());
@@ -315,7 +315,7 @@ void CookieJarTest::exchangeWithAService()
 {
     QFETCH(CookieJar::AcceptPolicy, policy);
     test::ScriptedCatalog catalog;
-    catalog.service().setReply(site.path(), test::ScriptedReply::xml("<x/>")
+    catalog.service().setReply(Site.path(), test::ScriptedReply::xml("<x/>")
                                                 .withHeader("Set-Cookie", "session=1; Path=/")
                                                 .withHeader("Set-Cookie", "lasting=2; Max-Age=31536000")
                                                 .withHeader("Set-Cookie", "foreign=3; Domain=else.test"));
@@ -324,7 +324,7 @@ void CookieJarTest::exchangeWithAService()
     manager.setCookieJar(jar); // which takes ownership
     jar->setAcceptPolicy(policy);
     for (int i = 0; i < 2; ++i) {
-        const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(site)));
+        const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(Site)));
         QTRY_VERIFY(reply->isFinished());
         QCOMPARE(reply->error(), QNetworkReply::NoError);
     }

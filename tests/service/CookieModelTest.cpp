@@ -14,7 +14,7 @@
 namespace
 {
 
-const QUrl site("https://catalog.test/ContentWS/x");
+const QUrl Site("https://catalog.test/ContentWS/x");
 
 } // namespace
 
@@ -45,7 +45,7 @@ void CookieModelTest::init()
     m_warnings = std::make_unique<test::FatalWarnings>();
     m_jar = std::make_unique<CookieJar>();
     for (const char* name : {"a", "b", "c", "d", "e"})
-        QVERIFY(m_jar->setCookiesFromUrl({QNetworkCookie(name, "value")}, site));
+        QVERIFY(m_jar->setCookiesFromUrl({QNetworkCookie(name, "value")}, Site));
     m_model = std::make_unique<CookieModel>(m_jar.get());
     m_tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
 }
@@ -67,7 +67,7 @@ void CookieModelTest::cells()
     cookie.setSecure(true);
     cookie.setExpirationDate(expiry);
     m_jar->clear();
-    QVERIFY(m_jar->setCookiesFromUrl({cookie}, site));
+    QVERIFY(m_jar->setCookiesFromUrl({cookie}, Site));
 
     QCOMPARE(m_model->rowCount(), 1);
     QCOMPARE(m_model->columnCount(), 6);
@@ -127,13 +127,13 @@ void CookieModelTest::removingRows()
     for (int i = 0; i < m_model->rowCount(); ++i)
         names += m_model->index(i, 1).data().toByteArray();
     QCOMPARE(names, left);
-    QCOMPARE(m_jar->cookiesForUrl(site).size(), left.size());
+    QCOMPARE(m_jar->cookiesForUrl(Site).size(), left.size());
 }
 
 void CookieModelTest::changesOfTheJarResetTheModel()
 {
     const QSignalSpy reset(m_model.get(), &CookieModel::modelReset);
-    m_jar->setCookiesFromUrl({QNetworkCookie("f", "value")}, site);
+    m_jar->setCookiesFromUrl({QNetworkCookie("f", "value")}, Site);
     QCOMPARE(reset.size(), 1);
     QCOMPARE(m_model->rowCount(), 6);
     const QModelIndex kept = m_model->index(0, 0);

@@ -20,7 +20,7 @@ namespace
 
 const char LoggedIn[] = "Login is successful.";
 const char NotLoggedIn[] = "Login is not successful.";
-const char searchLine[] = "SearchLine";
+const char SearchLine[] = "SearchLine";
 const char ResultsPage[] = "PartHarbor_2D";
 const char BackButton[] = "pushButton"; // Of the results page and of the detail page.
 constexpr int BrowsingTab = 1;
@@ -112,7 +112,7 @@ TourStep PaneSteps::openBrowsing() const
         return userInput::clickTab(tabs != nullptr ? tabs->tabBar() : nullptr, BrowsingTab);
     };
     step.look = [this]() -> Observation {
-        const bool isShown = m_pages.shown<QLineEdit>(searchLine) != nullptr;
+        const bool isShown = m_pages.shown<QLineEdit>(SearchLine) != nullptr;
         return {isShown, isShown ? "the search line is shown" : "no search line is shown"};
     };
     return step;
@@ -120,7 +120,7 @@ TourStep PaneSteps::openBrowsing() const
 
 TourStep PaneSteps::typeTerm(const QString& term) const
 {
-    return typeText("Type the search term", searchLine, term);
+    return typeText("Type the search term", SearchLine, term);
 }
 
 TourStep PaneSteps::pressReturn() const
@@ -242,7 +242,7 @@ TourStep PaneSteps::goBackToSearch() const
         return userInput::click(page != nullptr ? page->findChild<QPushButton*>(BackButton) : nullptr);
     };
     step.look = [this]() -> Observation {
-        const auto* line = m_pages.shown<QLineEdit>(searchLine);
+        const auto* line = m_pages.shown<QLineEdit>(SearchLine);
         if (line == nullptr)
             return {false, "no search line is shown"};
         return {line->text().isEmpty(), QString("the search line shows \"%1\"").arg(line->text())};

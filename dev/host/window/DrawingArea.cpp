@@ -15,7 +15,7 @@ namespace devhost
 namespace
 {
 
-const QRectF emptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Drawing units.
+const QRectF EmptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Drawing units.
 constexpr double ZoomStep = 1.25;
 
 } // namespace
@@ -79,7 +79,7 @@ void DrawingArea::zoomOut()
 void DrawingArea::zoomExtents()
 {
     const QRectF all = extents();
-    m_view.showAll(all.isNull() ? emptyDrawingView : all);
+    m_view.showAll(all.isNull() ? EmptyDrawingView : all);
     update();
 }
 

@@ -35,7 +35,7 @@ namespace devhost
 namespace
 {
 
-constexpr QSize initialSize(1280, 800);
+constexpr QSize InitialSize(1280, 800);
 constexpr int CommandLineHeight = 110;
 const char AddInStyleSheet[] = ":/3DPH/Resource/PV3DPartHarborDarkMode.qss"; // In the add-in's bundle.
 
@@ -57,7 +57,7 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
 {
     initializeIcons();
     setObjectName("mainWindow");
-    resize(initialSize);
+    resize(InitialSize);
     m_host->settings() = settings;
     addDraftingInterface(*m_host);
     createLayout();
