@@ -38,14 +38,14 @@ QString modelName(const QDomNodeList& fields)
     return text.startsWith(QLatin1Char(' ')) ? text.mid(1) : text;
 }
 
-constexpr Reading description = childText<6>;
+constexpr Reading Description = childText<6>;
 
 QString imageUrl(const QDomNodeList& fields)
 {
     return ServiceBaseUrl + childText<7>(fields);
 }
 
-constexpr Reading supplierName = childText<16>;
+constexpr Reading SupplierName = childText<16>;
 
 /// Reads the elements of a name, @p limit of them at the most, in document order.
 template <typename List, typename Read>
@@ -138,7 +138,7 @@ QStringList XMLParser::GetSearchItemField1() const
 
 QStringList XMLParser::GetSearchItemField6() const
 {
-    return readTexts(m_document, SearchOperation, description);
+    return readTexts(m_document, SearchOperation, Description);
 }
 
 QStringList XMLParser::GetSearchItemImageUrls() const
@@ -148,7 +148,7 @@ QStringList XMLParser::GetSearchItemImageUrls() const
 
 QStringList XMLParser::GetSearchItemField16() const
 {
-    return readTexts(m_document, SearchOperation, supplierName);
+    return readTexts(m_document, SearchOperation, SupplierName);
 }
 
 QStringList XMLParser::GetConfigurationNames() const
@@ -159,7 +159,7 @@ QStringList XMLParser::GetConfigurationNames() const
 QVector<SearchHit> XMLParser::GetSearchHits(int limit) const
 {
     const auto hit = [](const QDomNodeList& fields) {
-        return SearchHit{imageUrl(fields), supplierName(fields), modelName(fields), description(fields)};
+        return SearchHit{imageUrl(fields), SupplierName(fields), modelName(fields), Description(fields)};
     };
     return readElements<QVector<SearchHit>>(m_document, SearchOperation, limit, hit);
 }

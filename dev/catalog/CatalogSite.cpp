@@ -58,7 +58,7 @@ std::string fileStem(const Part& part)
 
 } // namespace
 
-CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog), m_files(maxKeptBytes)
+CatalogSite::CatalogSite(const PartCatalog& catalog) : m_catalog(catalog), m_files(MaximumKeptBytes)
 {
 }
 
@@ -80,7 +80,7 @@ std::string CatalogSite::addDrawing(const Part& part, const Configuration& confi
     std::string path = DrawingFolder + randomHex(16) + "/" + fileStem(part) + ".dwg";
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_downloads.push_front({path, dwg});
-    if (m_downloads.size() > maxDrawings)
+    if (m_downloads.size() > MaximumDrawings)
         m_downloads.pop_back();
     return path;
 }
@@ -116,7 +116,7 @@ HttpReply CatalogSite::thumbnail(const std::string& name)
     if (index >= parts.size() || name != std::to_string(index) + ThumbnailSuffix)
         return notFound();
     const FileCache::File picture =
-        m_files.get(name, [&] { return drawThumbnail(parts[index], thumbnailSize, thumbnailSize); });
+        m_files.get(name, [&] { return drawThumbnail(parts[index], ThumbnailSize, ThumbnailSize); });
     return {200, "image/png", *picture};
 }
 

@@ -18,7 +18,7 @@ class CatalogSite
 {
 public:
     /// The width and height of a picture in pixels.
-    static constexpr int thumbnailSize = 256;
+    static constexpr int ThumbnailSize = 256;
 
     /// @param catalog is borrowed.
     explicit CatalogSite(const PartCatalog& catalog);
@@ -39,8 +39,8 @@ public:
     HttpReply get(const std::string& path);
 
 private:
-    static constexpr std::size_t maxDrawings = 64;
-    static constexpr std::size_t maxKeptBytes = std::size_t{64} << 20U;
+    static constexpr std::size_t MaximumDrawings = 64;
+    static constexpr std::size_t MaximumKeptBytes = std::size_t{64} << 20U;
 
     struct Download {
         std::string path;

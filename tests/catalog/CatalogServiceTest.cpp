@@ -154,7 +154,7 @@ void CatalogServiceTest::drawingsAreKeptForDownload()
     const test::CatalogClient& client = m_fixture->client();
     const SoapRequest right = m_fixture->request("GetDownload2D");
     const devcatalog::Part& part = m_fixture->catalog().parts().front();
-    for (const std::string_view view : devcatalog::DrawingViews) {
+    for (const std::string_view view : devcatalog::drawingViews()) {
         const QString address =
             m_fixture->carriedOut(right.with("drawingView", QByteArray(view.data(), int(view.size()))));
         const auto drawn = drawPart(part, part.configurations.front(), view);

@@ -50,7 +50,7 @@ bool HttpsConnection::takeRequest()
 {
     static const QByteArray headEnd = "\r\n\r\n";
     const int headSize = m_buffer.indexOf(headEnd);
-    if (headSize > maximumHead || (headSize < 0 && m_buffer.size() > maximumHead))
+    if (headSize > MaximumHead || (headSize < 0 && m_buffer.size() > MaximumHead))
         refuse("431 Request Header Fields Too Large");
     if (headSize < 0 || !m_takesMore)
         return false;
@@ -61,7 +61,7 @@ bool HttpsConnection::takeRequest()
     const qint64 bodySize = length.isNull() ? 0 : length.toLongLong(&understood);
     if (!understood || bodySize < 0)
         refuse("400 Bad Request");
-    else if (bodySize > maximumBody)
+    else if (bodySize > MaximumBody)
         refuse("413 Content Too Large");
     const int bodyStart = headSize + headEnd.size();
     if (!m_takesMore || m_buffer.size() < bodyStart + bodySize)

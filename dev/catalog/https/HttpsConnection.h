@@ -22,8 +22,8 @@ public:
     };
 
     /// The longest head and body that are read, in bytes; a client that sends more is refused.
-    static constexpr int maximumHead = 65536;
-    static constexpr int maximumBody = 1048576;
+    static constexpr int MaximumHead = 65536;
+    static constexpr int MaximumBody = 1048576;
 
     /// Starts the handshake on an accepted socket. The connection deletes itself when its peer is gone.
     HttpsConnection(qintptr descriptor, const QSslConfiguration& tls, QObject* parent);
