@@ -84,8 +84,9 @@ bool isUsable(double coordinate)
     return std::isfinite(coordinate) && std::abs(coordinate) < LargestCoordinate;
 }
 
-/// @return the points of a curve; none when it is not one, or has a coordinate that cannot be used.
-QVector<QPointF> pointsOf(const OGRGeometry& geometry, int most)
+/// @return the points of a curve, multiplied by @p factor; none when it is not one, or has a coordinate that
+/// cannot be used.
+QVector<QPointF> pointsOf(const OGRGeometry& geometry, double factor, int most)
 {
     const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry(CircleStepDegrees));
     const auto* line = dynamic_cast<const OGRLineString*>(linear.get());
@@ -94,14 +95,15 @@ QVector<QPointF> pointsOf(const OGRGeometry& geometry, int most)
     QVector<QPointF> points;
     points.reserve(line->getNumPoints());
     for (int i = 0; i < line->getNumPoints(); ++i) {
-        if (!isUsable(line->getX(i)) || !isUsable(line->getY(i)))
+        const QPointF point = QPointF(line->getX(i), line->getY(i)) * factor;
+        if (!isUsable(point.x()) || !isUsable(point.y()))
             return {};
-        points.append(QPointF(line->getX(i), line->getY(i)));
+        points.append(point);
     }
     return points;
 }
 
-void appendLayer(OGRLayer& layer, BlockGeometry& block, int& pointsLeft)
+void appendLayer(OGRLayer& layer, double factor, BlockGeometry& block, int& pointsLeft)
 {
     const LineType lineType = lineTypeOfLayer(QString::fromUtf8(layer.GetName()));
     layer.ResetReading();
@@ -109,7 +111,7 @@ void appendLayer(OGRLayer& layer, BlockGeometry& block, int& pointsLeft)
         const OGRGeometry* geometry = feature->GetGeometryRef();
         if (geometry == nullptr)
             continue;
-        const QVector<QPointF> points = pointsOf(*geometry, pointsLeft);
+        const QVector<QPointF> points = pointsOf(*geometry, factor, pointsLeft);
         if (points.isEmpty())
             continue;
         pointsLeft -= points.size();
@@ -118,32 +120,39 @@ void appendLayer(OGRLayer& layer, BlockGeometry& block, int& pointsLeft)
     }
 }
 
-BlockGeometry readLayers(GDALDataset& dataset)
+DrawingUnit unitOf(GDALDataset& dataset)
+{
+    const char* const insUnits = dataset.GetMetadataItem("$INSUNITS");
+    return drawingUnitOf(QByteArray(insUnits).toInt()); // No unit for what is no number.
+}
+
+BlockGeometry readLayers(GDALDataset& dataset, double factor)
 {
     BlockGeometry block;
     int pointsLeft = MaximumPoints;
     for (int i = 0; i < dataset.GetLayerCount(); ++i)
-        appendLayer(*dataset.GetLayer(i), block, pointsLeft);
+        appendLayer(*dataset.GetLayer(i), factor, block, pointsLeft);
     return block;
 }
 
 } // namespace
 
-DwgContent readDwg(const QString& file)
+DwgContent readDwg(const QString& file, DrawingUnit unit)
 {
     const QString name = QFileInfo(file).fileName();
     const QString problem = findProblem(file);
     if (!problem.isEmpty())
-        return {std::nullopt, QString("Cannot read %1: %2.").arg(name, problem)};
+        return {std::nullopt, QString("Cannot read %1: %2.").arg(name, problem), {}, 1.0};
 
     const QuietGdal quiet;
     const Dataset dataset = openDataset(file);
     if (!dataset)
-        return {std::nullopt, QString("Cannot read %1: it is damaged or cut short.").arg(name)};
-    BlockGeometry block = readLayers(*dataset);
-    if (block.paths.isEmpty())
-        return {std::move(block), QString("%1 draws nothing.").arg(name)};
-    return {std::move(block), QString()};
+        return {std::nullopt, QString("Cannot read %1: it is damaged or cut short.").arg(name), {}, 1.0};
+    const DrawingUnit own = unitOf(*dataset);
+    const double factor = unitFactor(own, unit);
+    BlockGeometry block = readLayers(*dataset, factor);
+    const QString remark = block.paths.isEmpty() ? QString("%1 draws nothing.").arg(name) : QString();
+    return {std::move(block), remark, own, factor};
 }
 
 } // namespace devhost

@@ -55,7 +55,7 @@ BlockPromptAnswer HeadlessView::promptForBlock(const BlockPrompt& prompt)
     return m_promptScript ? m_promptScript(prompt) : BlockPromptAnswer();
 }
 
-std::optional<BlockGeometry> HeadlessView::readBlock(const QString& file)
+std::optional<BlockGeometry> HeadlessView::readBlock(const QString& file, DrawingUnit /*unit*/)
 {
     return QFile::exists(file) ? std::optional(BlockGeometry()) : std::nullopt;
 }

@@ -39,7 +39,7 @@ public:
     BlockPromptAnswer promptForBlock(const BlockPrompt& prompt) override;
     void cancelPrompt() override {}
     /// @return an empty block for a file that exists.
-    std::optional<BlockGeometry> readBlock(const QString& file) override;
+    std::optional<BlockGeometry> readBlock(const QString& file, DrawingUnit unit) override;
     bool openWebHelp(const QString& /*address*/) override { return true; }
     bool openHelpFile(const QString& /*file*/, long /*topic*/) override { return true; }
 

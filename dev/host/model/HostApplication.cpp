@@ -73,9 +73,29 @@ bool HostApplication::runUserCommand(const QString& id)
 
 HostDocument& HostApplication::newDocument()
 {
-    m_view.cancelPrompt();
     const QString name = QString("Drawing%1").arg(++m_documentCount);
-    const auto document = std::make_shared<HostDocument>(sharedContext(), name, m_view);
+    return addDocument(std::make_shared<HostDocument>(sharedContext(), name, m_view, m_unit));
+}
+
+HostDocument& HostApplication::openDocument(const QString& name, const BlockGeometry& geometry,
+                                            DrawingUnit unit)
+{
+    HostList<HostBlockInstance> blocks;
+    blocks.add(std::make_shared<HostBlockInstance>(sharedContext(), name, BlockPlacement(), geometry));
+    return addDocument(std::make_shared<HostDocument>(sharedContext(), name, m_view, unit, blocks));
+}
+
+void HostApplication::setUnit(DrawingUnit unit)
+{
+    m_unit = unit;
+    if (const auto document = activeDocument())
+        document->content().setUnit(unit);
+    emit changes().documentsChanged();
+}
+
+HostDocument& HostApplication::addDocument(const std::shared_ptr<HostDocument>& document)
+{
+    m_view.cancelPrompt();
     m_activeDocument = document;
     m_documents.add(document);
     emit changes().documentsChanged();

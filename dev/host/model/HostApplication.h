@@ -63,6 +63,11 @@ public:
 
     /// Opens a new empty drawing and makes it the active one. @return the drawing.
     HostDocument& newDocument();
+    /// Opens what was read of a drawing file, which is one block at the origin, and makes it the active
+    /// drawing. @return the drawing.
+    HostDocument& openDocument(const QString& name, const BlockGeometry& geometry, DrawingUnit unit);
+    /// Gives the active drawing another unit, and new ones from now on.
+    void setUnit(DrawingUnit unit);
     /// Closes the active drawing; the last one opened of the others becomes active. An open prompt is
     /// cancelled.
     void closeActiveDocument();
@@ -96,6 +101,7 @@ public:
 
 private:
     std::shared_ptr<HostCommand> findCommand(const QString& name) const;
+    HostDocument& addDocument(const std::shared_ptr<HostDocument>& document);
     HostPane* createPane(const QString& title);
     void removeUserInterface(const QString& appID);
 
@@ -113,6 +119,7 @@ private:
     std::weak_ptr<HostDocument> m_activeDocument;
     pvCreateCommandError_e m_commandError = pvCreateCommand_Succeeded;
     int m_documentCount = 0;
+    DrawingUnit m_unit = DrawingUnit::Centimetre; // The catalog's.
 };
 
 } // namespace devhost

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointF>
 
 namespace devhost
 {
@@ -13,10 +14,12 @@ class HostChanges : public QObject
 signals:
     void menusChanged();
     void ribbonChanged();
-    /// A drawing was opened, closed or made the active one.
+    /// A drawing was opened, closed, made the active one, or got another unit.
     void documentsChanged();
-    /// A block was placed in a drawing.
+    /// Blocks came into a drawing, or went.
     void blocksChanged();
+    /// An add-in inserted a block at that point.
+    void blockInserted(const QString& name, const QPointF& point);
 };
 
 } // namespace devhost

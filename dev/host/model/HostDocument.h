@@ -11,15 +11,20 @@ namespace devhost
 class HostDocument final : public HostObject<pvDocument_c>
 {
 public:
-    HostDocument(std::shared_ptr<HostContext> context, const QString& name, HostView& view);
+    /// @param unit what the drawing's numbers stand for. @param blocks which the drawing begins with.
+    HostDocument(std::shared_ptr<HostContext> context, const QString& name, HostView& view, DrawingUnit unit,
+                 const HostList<HostBlockInstance>& blocks = {});
 
     const QString& name() const { return id(); }
     /// @return the blocks placed in the drawing.
-    const HostList<HostBlockInstance>& blocks() const { return m_model->sketchManager().blocks(); }
+    const HostList<HostBlockInstance>& blocks() const { return m_content->blocks(); }
+    PlacedBlocks& content() { return *m_content; }
+    const PlacedBlocks& content() const { return *m_content; }
 
     pvResult GetModel(pvModel_c** model) override;
 
 private:
+    std::shared_ptr<PlacedBlocks> m_content; // Callers may keep a model longer than its drawing.
     std::shared_ptr<HostModelSpace> m_model;
 };
 

@@ -3,9 +3,10 @@
 namespace devhost
 {
 
-HostModelSpace::HostModelSpace(std::shared_ptr<HostContext> context, HostView& view)
+HostModelSpace::HostModelSpace(std::shared_ptr<HostContext> context, HostView& view,
+                               std::shared_ptr<PlacedBlocks> content)
     : HostObject(std::move(context), "Model"),
-      m_sketchManager(std::make_shared<HostSketchManager>(sharedContext(), view))
+      m_sketchManager(std::make_shared<HostSketchManager>(sharedContext(), view, std::move(content)))
 {
 }
 

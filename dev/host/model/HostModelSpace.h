@@ -11,9 +11,8 @@ namespace devhost
 class HostModelSpace final : public HostObject<pvModel_c>
 {
 public:
-    HostModelSpace(std::shared_ptr<HostContext> context, HostView& view);
-
-    const HostSketchManager& sketchManager() const { return *m_sketchManager; }
+    HostModelSpace(std::shared_ptr<HostContext> context, HostView& view,
+                   std::shared_ptr<PlacedBlocks> content);
 
     pvResult GetSketchManager(pvSketchManager_c** manager) override;
 

@@ -25,8 +25,9 @@ bool isUsable(const BlockPlacement& placement)
 
 } // namespace
 
-HostSketchManager::HostSketchManager(std::shared_ptr<HostContext> context, HostView& view)
-    : HostObject(std::move(context), "SketchManager"), m_view(view)
+HostSketchManager::HostSketchManager(std::shared_ptr<HostContext> context, HostView& view,
+                                     std::shared_ptr<PlacedBlocks> content)
+    : HostObject(std::move(context), "SketchManager"), m_view(view), m_content(std::move(content))
 {
 }
 
@@ -45,13 +46,14 @@ HostBlockInstance* HostSketchManager::insert(const QString& file, const BlockPla
 {
     if (!isUsable(placement))
         return nullptr;
-    std::optional<BlockGeometry> geometry = m_view.readBlock(file);
+    std::optional<BlockGeometry> geometry = m_view.readBlock(file, m_content->unit());
     if (!geometry)
         return nullptr;
-    HostBlockInstance& block = m_blocks.add(std::make_shared<HostBlockInstance>(
-        sharedContext(), QFileInfo(file).completeBaseName(), placement, std::move(*geometry)));
-    emit context().changes.blocksChanged();
-    return &block;
+    const auto block = std::make_shared<HostBlockInstance>(
+        sharedContext(), QFileInfo(file).completeBaseName(), placement, std::move(*geometry));
+    m_content->place(block);
+    emit context().changes.blockInserted(block->name(), {placement.x, placement.y});
+    return block.get(); // The drawing keeps it.
 }
 
 } // namespace devhost

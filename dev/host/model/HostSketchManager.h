@@ -1,22 +1,20 @@
 #pragma once
 
-#include "dev/host/model/HostBlockInstance.h"
-#include "dev/host/model/HostList.h"
 #include "dev/host/model/HostView.h"
+#include "dev/host/model/PlacedBlocks.h"
 
 #include <pvInterface/pvSketchManager_c.h>
 
 namespace devhost
 {
 
-/// Creates the blocks of one drawing, and holds them.
+/// Creates the blocks of one drawing.
 class HostSketchManager final : public HostObject<pvSketchManager_c>
 {
 public:
-    /// @param view reads drawing files; stays the caller's.
-    HostSketchManager(std::shared_ptr<HostContext> context, HostView& view);
-
-    const HostList<HostBlockInstance>& blocks() const { return m_blocks; }
+    /// @param view reads drawing files; stays the caller's. @param content gets the blocks.
+    HostSketchManager(std::shared_ptr<HostContext> context, HostView& view,
+                      std::shared_ptr<PlacedBlocks> content);
 
     pvResult InsertBlock2(const pvString& file, double x, double y, double z, double scaleX, double scaleY,
                           double scaleZ, double rotation, pvBlockInstance_c** block) override;
@@ -26,7 +24,7 @@ private:
     HostBlockInstance* insert(const QString& file, const BlockPlacement& placement);
 
     HostView& m_view;
-    HostList<HostBlockInstance> m_blocks;
+    std::shared_ptr<PlacedBlocks> m_content;
 };
 
 } // namespace devhost

@@ -2,6 +2,7 @@
 
 #include "dev/host/model/BlockGeometry.h"
 #include "dev/host/model/BlockPrompt.h"
+#include "dev/host/model/DrawingUnit.h"
 
 #include <memory>
 #include <optional>
@@ -43,8 +44,9 @@ public:
     /// Has an open prompt return as cancelled; without one it does nothing.
     virtual void cancelPrompt() = 0;
 
-    /// @return what the drawing file draws; nothing when it cannot be read.
-    virtual std::optional<BlockGeometry> readBlock(const QString& file) = 0;
+    /// @param unit of the drawing that is to get the block.
+    /// @return what the drawing file draws, in that unit; nothing when it cannot be read.
+    virtual std::optional<BlockGeometry> readBlock(const QString& file, DrawingUnit unit) = 0;
 
     /// @return whether the help was opened.
     virtual bool openWebHelp(const QString& address) = 0;

@@ -1,5 +1,7 @@
 #include "dev/host/window/BlockPainter.h"
 
+#include "dev/host/drawing/BlockTransform.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QtMath>
@@ -9,15 +11,6 @@ namespace devhost
 
 namespace
 {
-
-QTransform toModel(const BlockPlacement& placement)
-{
-    QTransform transform;
-    transform.translate(placement.x, placement.y);
-    transform.rotateRadians(placement.rotation);
-    transform.scale(placement.scaleX, placement.scaleY);
-    return transform;
-}
 
 QTransform toPixels(const ViewTransform& view)
 {
@@ -38,10 +31,10 @@ QPen penOf(LineType lineType, const QColor& color)
     return pen;
 }
 
-void paintCross(QPainter& painter, const QPointF& centre, const QColor& color)
+void paintCross(QPainter& painter, const QPointF& centre, const QPen& pen)
 {
     constexpr double arm = 12.0; // Pixels.
-    painter.setPen(QPen(color, 1.6));
+    painter.setPen(pen);
     painter.drawLine(centre - QPointF(arm, arm), centre + QPointF(arm, arm));
     painter.drawLine(centre - QPointF(arm, -arm), centre + QPointF(arm, -arm));
 }
@@ -50,7 +43,7 @@ void paintCross(QPainter& painter, const QPointF& centre, const QColor& color)
 
 QRectF blockExtents(const BlockGeometry& geometry, const BlockPlacement& placement)
 {
-    const QTransform transform = toModel(placement);
+    const QTransform transform = blockTransform(placement);
     QRectF extents;
     for (const BlockPath& path : geometry.paths)
         extents |= transform.map(QPolygonF(path.points)).boundingRect();
@@ -61,14 +54,26 @@ void paintBlock(QPainter& painter, const ViewTransform& view, const DrawingColor
                 const BlockGeometry& geometry, const BlockPlacement& placement)
 {
     if (geometry.paths.isEmpty()) {
-        paintCross(painter, view.toPixels({placement.x, placement.y}), colors.foreground);
+        paintCross(painter, view.toPixels({placement.x, placement.y}), QPen(colors.foreground, 1.6));
         return;
     }
-    const QTransform transform = toModel(placement) * toPixels(view);
+    const QTransform transform = blockTransform(placement) * toPixels(view);
     for (const BlockPath& path : geometry.paths) {
         painter.setPen(penOf(path.lineType, colors.ofLine(path.rgb)));
         painter.drawPolyline(transform.map(QPolygonF(path.points)));
     }
+}
+
+void paintSelection(QPainter& painter, const ViewTransform& view, const QColor& color,
+                    const BlockGeometry& geometry, const BlockPlacement& placement)
+{
+    const QPen pen(color, 6.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (geometry.paths.isEmpty())
+        paintCross(painter, view.toPixels({placement.x, placement.y}), pen);
+    painter.setPen(pen);
+    const QTransform transform = blockTransform(placement) * toPixels(view);
+    for (const BlockPath& path : geometry.paths)
+        painter.drawPolyline(transform.map(QPolygonF(path.points)));
 }
 
 } // namespace devhost

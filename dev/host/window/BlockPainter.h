@@ -17,4 +17,8 @@ QRectF blockExtents(const BlockGeometry& geometry, const BlockPlacement& placeme
 void paintBlock(QPainter& painter, const ViewTransform& view, const DrawingColors& colors,
                 const BlockGeometry& geometry, const BlockPlacement& placement);
 
+/// Draws what shows around the lines of a selected block; goes under the block itself.
+void paintSelection(QPainter& painter, const ViewTransform& view, const QColor& color,
+                    const BlockGeometry& geometry, const BlockPlacement& placement);
+
 } // namespace devhost

@@ -16,6 +16,12 @@ namespace
 const char CommandPrompt[] = "Command:";
 constexpr int HistoryLines = 500;
 
+bool isEditingKey(const QKeyEvent& key)
+{
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo) ||
+           key.matches(QKeySequence::Delete);
+}
+
 } // namespace
 
 CommandLine::CommandLine(QWidget* parent)
@@ -86,15 +92,6 @@ QStringList CommandLine::history() const
 
 void CommandLine::takeKey(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        emit escapePressed();
-        return;
-    }
-    const bool isTyped = !event->text().isEmpty() && event->text().at(0).isPrint();
-    const bool isEdit =
-        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Backspace;
-    if (!isTyped && !isEdit)
-        return;
     m_input->setFocus(Qt::OtherFocusReason);
     QKeyEvent forwarded(event->type(), event->key(), event->modifiers(), event->text());
     m_input->event(&forwarded);
@@ -102,6 +99,11 @@ void CommandLine::takeKey(QKeyEvent* event)
 
 bool CommandLine::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && m_input->text().isEmpty() &&
+        isEditingKey(*static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return true; // An empty line has nothing to edit; the keys are the drawing's.
+    }
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     switch (static_cast<QKeyEvent*>(event)->key()) {

@@ -1,12 +1,13 @@
 #include "dev/host/window/DrawingArea.h"
 
 #include "dev/host/window/BlockPainter.h"
+#include "dev/host/window/BlockPicker.h"
 #include "dev/host/window/GridPainter.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace devhost
@@ -15,8 +16,9 @@ namespace devhost
 namespace
 {
 
-const QRectF EmptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Drawing units.
+const QRectF EmptyDrawingView(-3.0, -2.0, 24.0, 14.0); // Centimetres.
 constexpr double ZoomStep = 1.25;
+constexpr double PickBox = 4.0; // Half side in pixels.
 
 } // namespace
 
@@ -35,9 +37,51 @@ void DrawingArea::setDocument(const std::shared_ptr<const HostDocument>& documen
     const bool isOther = document != m_document;
     m_document = document;
     setCursor(document ? Qt::BlankCursor : Qt::ArrowCursor);
-    if (isOther)
+    if (isOther) {
+        clearSelection();
         zoomExtents();
+    }
     update();
+}
+
+void DrawingArea::showBlocks()
+{
+    Blocks remaining;
+    if (m_document)
+        remaining = m_document->blocks().objects();
+    const auto isGone = [&](const auto& block) {
+        return std::find(remaining.begin(), remaining.end(), block) == remaining.end();
+    };
+    Blocks selection = m_selection;
+    selection.erase(std::remove_if(selection.begin(), selection.end(), isGone), selection.end());
+    select(selection);
+    update();
+}
+
+void DrawingArea::select(const Blocks& blocks)
+{
+    if (blocks == m_selection)
+        return;
+    m_selection = blocks;
+    emit selectionChanged();
+    update();
+}
+
+void DrawingArea::pick(const QPointF& pixel, bool toggles)
+{
+    if (!m_document)
+        return;
+    const QPointF half(PickBox, PickBox);
+    const auto block = blockIn(m_document->content(), m_view, QRectF(pixel - half, pixel + half));
+    Blocks selection = m_selection;
+    const auto at = std::find(selection.begin(), selection.end(), block);
+    if (!block)
+        selection.clear();
+    else if (at == selection.end())
+        selection.push_back(block);
+    else if (toggles)
+        selection.erase(at);
+    select(selection);
 }
 
 void DrawingArea::setDark(bool dark)
@@ -79,8 +123,20 @@ void DrawingArea::zoomOut()
 void DrawingArea::zoomExtents()
 {
     const QRectF all = extents();
-    m_view.showAll(all.isNull() ? EmptyDrawingView : all);
+    m_view.showAll(all.isNull() ? emptyView() : all);
     update();
+}
+
+/// @return the default view, as large in every unit.
+QRectF DrawingArea::emptyView() const
+{
+    const double factor = unitFactor(DrawingUnit::Centimetre, unit());
+    return QRectF(EmptyDrawingView.topLeft() * factor, EmptyDrawingView.size() * factor);
+}
+
+DrawingUnit DrawingArea::unit() const
+{
+    return m_document ? m_document->content().unit() : DrawingUnit::None;
 }
 
 QRectF DrawingArea::extents() const
@@ -111,6 +167,8 @@ void DrawingArea::paintDrawing(QPainter& painter) const
     if (m_gridVisible)
         paintGrid(painter, m_view, m_colors);
     painter.setRenderHint(QPainter::Antialiasing);
+    for (const auto& block : m_selection)
+        paintSelection(painter, m_view, m_colors.selection, block->geometry(), block->placement());
     for (const auto& block : m_document->blocks().objects())
         paintBlock(painter, m_view, m_colors, block->geometry(), block->placement());
     paintAxesSign(painter, size(), m_colors);
@@ -129,8 +187,7 @@ void DrawingArea::paintCrosshair(QPainter& painter) const
 {
     if (!m_cursor || m_panFrom)
         return;
-    constexpr double pickBox = 4.0; // Half side in pixels; there is nothing to pick while a block is placed.
-    const double gap = m_blockAtCursor ? 0.0 : pickBox;
+    const double gap = m_blockAtCursor ? 0.0 : PickBox; // There is nothing to pick while a block is placed.
     const QPointF at(std::floor(m_cursor->x()) + 0.5, std::floor(m_cursor->y()) + 0.5);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(QPen(m_colors.foreground, 1.0));
@@ -139,7 +196,7 @@ void DrawingArea::paintCrosshair(QPainter& painter) const
     painter.drawLine(QPointF(at.x(), 0.0), at - QPointF(0.0, gap));
     painter.drawLine(at + QPointF(0.0, gap), QPointF(at.x(), height()));
     if (!m_blockAtCursor)
-        painter.drawRect(QRectF(at - QPointF(pickBox, pickBox), QSizeF(2.0 * pickBox, 2.0 * pickBox)));
+        painter.drawRect(QRectF(at - QPointF(PickBox, PickBox), QSizeF(2.0 * PickBox, 2.0 * PickBox)));
 }
 
 void DrawingArea::resizeEvent(QResizeEvent*)
@@ -174,8 +231,11 @@ void DrawingArea::mousePressEvent(QMouseEvent* event)
         return;
     }
     moveCursor(event->localPos());
-    if (event->button() == Qt::LeftButton)
-        emit clicked(toModel(event->localPos()));
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (!m_blockAtCursor)
+        pick(event->localPos(), event->modifiers().testFlag(Qt::ShiftModifier));
+    emit clicked(toModel(event->localPos()));
 }
 
 void DrawingArea::mouseReleaseEvent(QMouseEvent* event)
@@ -208,10 +268,4 @@ void DrawingArea::leaveEvent(QEvent*)
     m_cursor.reset();
     update();
 }
-
-void DrawingArea::keyPressEvent(QKeyEvent* event)
-{
-    emit keyTyped(event);
-}
-
 } // namespace devhost

@@ -13,7 +13,9 @@ namespace devhost
 
 /// Model space of the active drawing: grid, placed blocks, crosshair, and the block that is being placed.
 ///
-/// The wheel zooms around the cursor, the middle button pans, its double click shows everything.
+/// A click on a block selects it with those selected before; with Shift it takes a selected one out again. A
+/// click beside all blocks clears the selection. The wheel zooms around the cursor, the middle button pans,
+/// its double click shows everything.
 class DrawingArea final : public QWidget
 {
     Q_OBJECT
@@ -43,11 +45,19 @@ public:
     /// Shows all blocks, or the default view in an empty drawing.
     void zoomExtents();
 
+    /// @return the drawing's unit.
+    DrawingUnit unit() const;
+
+    /// @return the selected blocks, all of the drawing.
+    const std::vector<std::shared_ptr<HostBlockInstance>>& selection() const { return m_selection; }
+    void clearSelection() { select({}); }
+    /// Shows the blocks that the drawing has now.
+    void showBlocks();
+
 signals:
     void cursorMoved(const QPointF& model);
     void clicked(const QPointF& model);
-    /// A key that is meant for the command line.
-    void keyTyped(QKeyEvent* event);
+    void selectionChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -58,7 +68,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct BlockAtCursor {
@@ -66,7 +75,12 @@ private:
         BlockPlacement placement;
     };
 
+    using Blocks = std::vector<std::shared_ptr<HostBlockInstance>>;
+
     QRectF extents() const;
+    QRectF emptyView() const;
+    void select(const Blocks& blocks);
+    void pick(const QPointF& pixel, bool toggles);
     void moveCursor(const QPointF& pixel);
     void paintDrawing(QPainter& painter) const;
     void paintCrosshair(QPainter& painter) const;
@@ -76,6 +90,7 @@ private:
     DrawingColors m_colors = DrawingColors::light();
     bool m_gridVisible = true;
     bool m_fitted = false; // The view was fitted to the widget's first size.
+    Blocks m_selection;
     std::optional<BlockAtCursor> m_blockAtCursor;
     std::optional<QPointF> m_cursor; // Pixel under the cursor while it is in the area.
     std::optional<QPointF> m_panFrom;

@@ -7,12 +7,12 @@ namespace devhost
 
 DrawingColors DrawingColors::light()
 {
-    return {"#fdfdfb", "#eef0f2", "#dde1e6", "#d9534f", "#3f9b57", "#1b1f24"};
+    return {"#fdfdfb", "#eef0f2", "#dde1e6", "#d9534f", "#3f9b57", "#a9d0f5", "#1b1f24"};
 }
 
 DrawingColors DrawingColors::dark()
 {
-    return {"#1e252d", "#262e37", "#323c47", "#a9403d", "#3c8a52", "#eef1f4"};
+    return {"#1e252d", "#262e37", "#323c47", "#a9403d", "#3c8a52", "#2f5f8f", "#eef1f4"};
 }
 
 QColor DrawingColors::ofLine(quint32 rgb) const

@@ -12,6 +12,7 @@ struct DrawingColors {
     QColor majorGrid;
     QColor xAxis;
     QColor yAxis;
+    QColor selection;  ///< Under the lines of selected blocks.
     QColor foreground; ///< Of lines in colour 7, crosshair and cross.
 
     static DrawingColors light();

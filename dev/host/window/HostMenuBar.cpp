@@ -1,6 +1,7 @@
 #include "dev/host/window/HostMenuBar.h"
 
 #include "dev/host/window/CommandIcons.h"
+#include "dev/host/window/CommandShortcuts.h"
 
 namespace devhost
 {
@@ -47,6 +48,8 @@ void HostMenuBar::addEntry(QMenu& menu, const HostApplication& application, cons
     }
     QAction* action = menu.addAction(properties.caption);
     if (properties.userCommandID.isEmpty()) {
+        action->setProperty(HostCommandProperty, properties.command);
+        action->setShortcut(commandShortcut(properties.command));
         action->setIcon(commandIcon(properties.command, palette().color(QPalette::WindowText)));
         connect(action, &QAction::triggered, this,
                 [this, properties] { emit commandChosen(properties.command); });

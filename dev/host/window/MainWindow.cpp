@@ -4,13 +4,17 @@
 #include "dev/host/window/CommandDock.h"
 #include "dev/host/window/CommandIcons.h"
 #include "dev/host/window/CommandLine.h"
+#include "dev/host/window/CommandShortcuts.h"
 #include "dev/host/window/DrawingArea.h"
+#include "dev/host/window/DrawingCommands.h"
 #include "dev/host/window/HostMenu.h"
 #include "dev/host/window/HostMenuBar.h"
 #include "dev/host/window/JournalPanel.h"
+#include "dev/host/window/KeyRouter.h"
 #include "dev/host/window/ReconnectBar.h"
 #include "dev/host/window/Ribbon.h"
 #include "dev/host/window/SheetsSetAside.h"
+#include "dev/host/window/UnitButton.h"
 #include "dev/host/window/WidgetGallery.h"
 #include "dev/host/window/WindowTheme.h"
 #include "dev/host/window/WindowView.h"
@@ -18,6 +22,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
@@ -47,13 +52,16 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
       m_commandLine(new CommandLine),
       m_view(std::make_unique<WindowView>(*this, *m_drawingArea, *m_commandLine)),
       m_host(std::make_shared<HostApplication>(*m_view)),
+      m_drawingCommands(std::make_unique<DrawingCommands>(*m_host, *m_drawingArea, *m_commandLine, *this)),
+      m_keyRouter(std::make_unique<KeyRouter>(*this, *m_commandLine)),
       m_menuBar(new HostMenuBar),
       m_hostMenu(new HostMenu(settings, m_menuBar)),
       m_ribbon(new Ribbon),
       m_reconnectBar(new ReconnectBar),
       m_documentTabs(new QTabBar),
       m_coordinates(new QLabel),
-      m_gridButton(new QToolButton)
+      m_gridButton(new QToolButton),
+      m_unitButton(new UnitButton)
 {
     initializeIcons();
     setObjectName("mainWindow");
@@ -66,12 +74,15 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
     connectParts();
     applyTheme(settings.darkTheme);
     m_host->newDocument();
+    m_drawingArea->setFocusProxy(m_commandLine->input()); // Who clicks into the drawing types commands.
+    m_commandLine->input()->setFocus();
 }
 
 MainWindow::~MainWindow()
 {
     m_view->cancelPrompt();
     disconnect(&m_host->changes(), nullptr, this, nullptr);
+    m_drawingCommands.reset();
     m_host.reset(); // Panes end before the window's own widgets.
 }
 
@@ -133,6 +144,7 @@ void MainWindow::createStatusBar()
     statusBar()->addWidget(m_coordinates);
     statusBar()->addPermanentWidget(new QLabel("MODEL"));
     statusBar()->addPermanentWidget(m_gridButton);
+    statusBar()->addPermanentWidget(m_unitButton);
 }
 
 void MainWindow::createCommands()
@@ -147,8 +159,12 @@ void MainWindow::createCommands()
         {"ZOOMOUT", [this] { m_drawingArea->zoomOut(); }},
         {"GRID", [this] { toggleGrid(); }},
         {"RECONNECT", [this] { emit reconnectRequested(); }},
+        {"UNITS", [this] { m_unitButton->showMenu(); }},
         {"HELP", [this] { printCommands(); }},
     };
+    const auto drawingCommands = m_drawingCommands->commands();
+    for (auto command = drawingCommands.begin(); command != drawingCommands.end(); ++command)
+        m_commands.insert(command.key(), command.value());
 }
 
 void MainWindow::connectParts()
@@ -157,13 +173,15 @@ void MainWindow::connectParts()
     connect(&changes, &HostChanges::menusChanged, this, &MainWindow::showMenus);
     connect(&changes, &HostChanges::ribbonChanged, this, &MainWindow::showRibbon);
     connect(&changes, &HostChanges::documentsChanged, this, &MainWindow::showDocuments);
-    connect(&changes, &HostChanges::blocksChanged, m_drawingArea, qOverload<>(&QWidget::update));
+    connect(&changes, &HostChanges::blocksChanged, m_drawingArea, &DrawingArea::showBlocks);
+    connect(&changes, &HostChanges::blocksChanged, this, &MainWindow::showAvailability);
+    connect(m_drawingArea, &DrawingArea::selectionChanged, this, &MainWindow::showAvailability);
 
     connect(m_menuBar, &HostMenuBar::commandChosen, this, &MainWindow::runCommand);
     connect(m_ribbon, &Ribbon::commandChosen, this, &MainWindow::runCommand);
-    const auto runUserCommand = [this](const QString& id) { m_host->runUserCommand(id); };
-    connect(m_menuBar, &HostMenuBar::userCommandChosen, this, runUserCommand);
-    connect(m_ribbon, &Ribbon::userCommandChosen, this, runUserCommand);
+    connect(m_menuBar, &HostMenuBar::userCommandChosen, this, &MainWindow::runUserCommand);
+    connect(m_ribbon, &Ribbon::userCommandChosen, this, &MainWindow::runUserCommand);
+    connect(m_unitButton, &UnitButton::unitChosen, this, [this](DrawingUnit unit) { m_host->setUnit(unit); });
     connect(m_hostMenu, &HostMenu::darkThemeChosen, this, &MainWindow::applyTheme);
     connect(m_hostMenu, &HostMenu::nextConnectChosen, this, &MainWindow::offerReconnect);
     connect(m_hostMenu, &HostMenu::reconnectChosen, this, &MainWindow::reconnectRequested);
@@ -173,7 +191,7 @@ void MainWindow::connectParts()
     connect(m_gridButton, &QToolButton::clicked, this, &MainWindow::toggleGrid);
 
     connect(m_commandLine, &CommandLine::submitted, this, &MainWindow::takeText);
-    connect(m_drawingArea, &DrawingArea::keyTyped, m_commandLine, &CommandLine::takeKey);
+    connect(m_commandLine, &CommandLine::escapePressed, m_drawingArea, &DrawingArea::clearSelection);
     connect(m_drawingArea, &DrawingArea::cursorMoved, this, &MainWindow::showCursor);
 
     connect(m_documentTabs, &QTabBar::tabBarClicked, this, [this](int index) {
@@ -215,6 +233,29 @@ bool MainWindow::isShownCommand(const QString& command) const
     return !m_ribbon->findChildren<QToolButton*>(command).isEmpty();
 }
 
+/// @return whether a menu entry or ribbon button has something to run.
+bool MainWindow::isAvailable(const QString& command) const
+{
+    return m_commands.contains(command) && m_drawingCommands->hasSubject(command);
+}
+
+void MainWindow::showAvailability()
+{
+    for (QWidget* part : {static_cast<QWidget*>(m_menuBar), static_cast<QWidget*>(m_ribbon)})
+        for (QObject* object : part->findChildren<QObject*>()) {
+            const QString command = object->property(HostCommandProperty).toString();
+            if (!command.isEmpty())
+                object->setProperty("enabled", isAvailable(command));
+        }
+}
+
+void MainWindow::runUserCommand(const QString& id)
+{
+    if (const auto userCommand = m_host->findUserCommand(id))
+        m_lastCommand = userCommand->properties().macro.section("^C", -1).trimmed();
+    m_host->runUserCommand(id);
+}
+
 void MainWindow::printCommands()
 {
     QStringList names = m_commands.keys();
@@ -245,6 +286,7 @@ void MainWindow::offerReconnect(const QString& consequence)
 void MainWindow::showMenus()
 {
     m_menuBar->showMenus(*m_host);
+    showAvailability();
 }
 
 void MainWindow::showRibbon()
@@ -252,6 +294,7 @@ void MainWindow::showRibbon()
     const auto workspaces = m_host->workspaces().objects();
     if (!workspaces.empty())
         m_ribbon->showWorkspace(*m_host, *workspaces.front());
+    showAvailability();
 }
 
 void MainWindow::showDocuments()
@@ -266,6 +309,9 @@ void MainWindow::showDocuments()
             m_documentTabs->setCurrentIndex(index);
     }
     m_drawingArea->setDocument(active);
+    m_unitButton->showUnit(m_drawingArea->unit());
+    m_unitButton->setEnabled(active != nullptr);
+    showAvailability();
     setWindowTitle(active ? QString("Plotvane Development Host - [%1]").arg(active->name())
                           : QString("Plotvane Development Host"));
 }

@@ -16,11 +16,14 @@ namespace devhost
 
 class CommandLine;
 class DrawingArea;
+class DrawingCommands;
 class HostMenu;
 class HostMenuBar;
+class KeyRouter;
 class PlacementPrompt;
 class ReconnectBar;
 class Ribbon;
+class UnitButton;
 class WindowView;
 
 /// The development host's window: shows the host's model and lets the user work with it.
@@ -37,6 +40,7 @@ public:
     ~MainWindow() override;
 
     HostApplication& host() { return *m_host; }
+    DrawingCommands& drawingCommands() { return *m_drawingCommands; }
     DrawingArea& drawingArea() { return *m_drawingArea; }
     CommandLine& commandLine() { return *m_commandLine; }
     /// @return the open prompt; null when there is none.
@@ -71,11 +75,16 @@ private:
     void toggleGrid();
     bool isShownCommand(const QString& command) const;
     void printCommands();
+    bool isAvailable(const QString& command) const;
+    void showAvailability();
+    void runUserCommand(const QString& id);
 
     DrawingArea* m_drawingArea = nullptr;
     CommandLine* m_commandLine = nullptr;
     std::unique_ptr<WindowView> m_view;
     std::shared_ptr<HostApplication> m_host;
+    std::unique_ptr<DrawingCommands> m_drawingCommands;
+    std::unique_ptr<KeyRouter> m_keyRouter;
     HostMenuBar* m_menuBar = nullptr;
     HostMenu* m_hostMenu = nullptr;
     Ribbon* m_ribbon = nullptr;
@@ -83,6 +92,7 @@ private:
     QTabBar* m_documentTabs = nullptr;
     QLabel* m_coordinates = nullptr;
     QToolButton* m_gridButton = nullptr;
+    UnitButton* m_unitButton = nullptr;
     QHash<QString, std::function<void()>> m_commands; // The host's own that do something, by their names.
     QString m_lastCommand;
 };

@@ -54,6 +54,11 @@ PlacementPrompt::PlacementPrompt(DrawingArea& drawingArea, CommandLine& commandL
     connect(m_escape, &QShortcut::activated, this, &PlacementPrompt::cancel);
 
     commandLine.print(QString("Block %1").arg(QFileInfo(m_prompt.file).completeBaseName()));
+    if (content.factor != 1.0)
+        commandLine.print(QString("Its unit is %1; it is scaled by %2 to the drawing's, %3.")
+                              .arg(unitSymbol(content.unit))
+                              .arg(content.factor)
+                              .arg(unitSymbol(drawingArea.unit())));
     if (!content.problem.isEmpty())
         commandLine.print(content.problem);
     drawingArea.setFocus(Qt::OtherFocusReason);

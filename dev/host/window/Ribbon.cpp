@@ -1,12 +1,14 @@
 #include "dev/host/window/Ribbon.h"
 
 #include "dev/host/window/CommandIcons.h"
+#include "dev/host/window/CommandShortcuts.h"
 #include "dev/host/window/RibbonPage.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QTabBar>
 #include <QToolButton>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -145,6 +147,7 @@ QToolButton* Ribbon::createButton(const HostApplication& application, const Host
     widget->setFocusPolicy(Qt::TabFocus);
     if (properties.userCommandID.isEmpty()) {
         widget->setObjectName(properties.command);
+        widget->setProperty(HostCommandProperty, properties.command);
         widget->setIcon(commandIcon(properties.command, palette().color(QPalette::WindowText)));
         connect(widget, &QToolButton::clicked, this,
                 [this, command = properties.command] { emit commandChosen(command); });

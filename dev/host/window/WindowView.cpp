@@ -26,7 +26,8 @@ BlockPromptAnswer WindowView::promptForBlock(const BlockPrompt& prompt)
         m_commandLine.print("No drawing is open to place a block in.");
         return {};
     }
-    PlacementPrompt question(m_drawingArea, m_commandLine, prompt, readDwg(prompt.file));
+    PlacementPrompt question(m_drawingArea, m_commandLine, prompt,
+                             readDwg(prompt.file, m_drawingArea.unit()));
     m_prompt = &question;
     return question.exec(); // The view may be gone afterwards.
 }
@@ -37,9 +38,9 @@ void WindowView::cancelPrompt()
         m_prompt->cancel();
 }
 
-std::optional<BlockGeometry> WindowView::readBlock(const QString& file)
+std::optional<BlockGeometry> WindowView::readBlock(const QString& file, DrawingUnit unit)
 {
-    DwgContent content = readDwg(file);
+    DwgContent content = readDwg(file, unit);
     if (!content.geometry)
         m_commandLine.print(content.problem + " No block was inserted.");
     return std::move(content.geometry);

@@ -26,7 +26,7 @@ public:
     std::unique_ptr<PaneView> createPane(const QString& title) override;
     BlockPromptAnswer promptForBlock(const BlockPrompt& prompt) override;
     void cancelPrompt() override;
-    std::optional<BlockGeometry> readBlock(const QString& file) override;
+    std::optional<BlockGeometry> readBlock(const QString& file, DrawingUnit unit) override;
     bool openWebHelp(const QString& address) override;
     bool openHelpFile(const QString& file, long topic) override;
 
