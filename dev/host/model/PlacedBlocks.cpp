@@ -7,6 +7,8 @@ PlacedBlocks::PlacedBlocks(std::shared_ptr<HostContext> context, DrawingUnit uni
                            const HostList<HostBlockInstance>& blocks)
     : m_context(std::move(context)), m_unit(unit), m_blocks(blocks)
 {
+    // Not the steps themselves, for what can be undone is only known after them.
+    QObject::connect(&m_history, &QUndoStack::indexChanged, &m_context->changes, &HostChanges::blocksChanged);
 }
 
 void PlacedBlocks::place(const std::shared_ptr<HostBlockInstance>& block)
@@ -29,7 +31,6 @@ void PlacedBlocks::put(const BlockStep::Blocks& blocks)
 {
     for (const auto& [position, block] : blocks)
         m_blocks.insert(position, block);
-    emit m_context->changes.blocksChanged();
 }
 
 void PlacedBlocks::take(const BlockStep::Blocks& blocks)
@@ -38,7 +39,6 @@ void PlacedBlocks::take(const BlockStep::Blocks& blocks)
         return std::any_of(blocks.begin(), blocks.end(),
                            [&](const auto& entry) { return entry.second.get() == &candidate; });
     });
-    emit m_context->changes.blocksChanged();
 }
 
 } // namespace devhost

@@ -66,6 +66,36 @@ TourStep PlacementSteps::placeBlock(const QPointF& place) const
     return step;
 }
 
+TourStep PlacementSteps::undoPlacement() const
+{
+    TourStep step = pressForBlocks(Qt::Key_Z, -1);
+    step.name = "Undo the placement";
+    return step;
+}
+
+TourStep PlacementSteps::redoPlacement() const
+{
+    TourStep step = pressForBlocks(Qt::Key_Y, 1);
+    step.name = "Redo the placement";
+    return step;
+}
+
+TourStep PlacementSteps::pressForBlocks(Qt::Key key, int added) const
+{
+    const auto expected = std::make_shared<int>(0);
+    TourStep step;
+    step.act = [=] {
+        *expected = blockCount() + (m_areReadable ? added : 0);
+        return userInput::press(key, Qt::ControlModifier);
+    };
+    step.look = [=]() -> Observation {
+        return {
+            blockCount() == *expected,
+            QString("blocks: %1; %2").arg(blockCount()).arg(m_window.commandLine().history().constLast())};
+    };
+    return step;
+}
+
 TourStep PlacementSteps::cancelPlacement() const
 {
     const auto countBefore = std::make_shared<int>(0);

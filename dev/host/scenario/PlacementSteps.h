@@ -29,6 +29,9 @@ public:
     TourStep steerBlock(const QPointF& place) const;
     /// Clicks that place. Outcome: one block more, there, and the file is gone.
     TourStep placeBlock(const QPointF& place) const;
+    /// Presses the keys of undo, or of redo. Outcome: one block less, or more; none where none came.
+    TourStep undoPlacement() const;
+    TourStep redoPlacement() const;
     /// Presses Esc. Outcome: the prompt and the file are gone, no block came.
     TourStep cancelPlacement() const;
 
@@ -36,6 +39,7 @@ public:
     TourStep lookAtDrawing(int blocks) const;
 
 private:
+    TourStep pressForBlocks(Qt::Key key, int added) const;
     int blockCount() const;
     /// @return the names of the files that lie in the current directory.
     static QStringList downloadedFiles();

@@ -33,6 +33,8 @@ Scenario shortScenario(const HostSteps& host, const PaneSteps& pane, const Place
         placement.clickPreview("0.dwg"),
         placement.steerBlock(place),
         placement.placeBlock(place),
+        placement.undoPlacement(),
+        placement.redoPlacement(),
         pane.goBackToResults(),
         placement.lookAtDrawing(1),
     };

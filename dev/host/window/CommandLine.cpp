@@ -92,6 +92,7 @@ QStringList CommandLine::history() const
 
 void CommandLine::takeKey(QKeyEvent* event)
 {
+    m_input->activateWindow(); // A floating pane may have the keyboard.
     m_input->setFocus(Qt::OtherFocusReason);
     QKeyEvent forwarded(event->type(), event->key(), event->modifiers(), event->text());
     m_input->event(&forwarded);

@@ -98,6 +98,14 @@ void DrawingCommands::saveAs(const QString& path)
     print(problem.isEmpty() ? QString("Copy saved as %1.").arg(QDir::toNativeSeparators(path)) : problem);
 }
 
+void DrawingCommands::setUnit(DrawingUnit unit)
+{
+    m_host.setUnit(unit);
+    if (m_area.document() && m_area.document()->blocks().objects().empty())
+        m_area.zoomExtents(); // The empty drawing is as large in every unit.
+    print(QString("The drawing's unit: %1.").arg(unitSymbol(unit)));
+}
+
 void DrawingCommands::erase()
 {
     const auto selection = m_area.selection();
@@ -106,7 +114,8 @@ void DrawingCommands::erase()
         return;
     }
     m_host.activeDocument()->content().erase(selection);
-    print(QString("Erased: %1.").arg(selection.size()));
+    print(selection.size() == 1 ? QString("1 block erased.")
+                                : QString("%1 blocks erased.").arg(selection.size()));
 }
 
 void DrawingCommands::undo()

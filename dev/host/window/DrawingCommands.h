@@ -34,6 +34,8 @@ public:
     void open(const QString& path);
     /// Saves the active drawing as .dxf or .svg.
     void saveAs(const QString& path);
+    /// Gives the active drawing that unit, and new ones from now on.
+    void setUnit(DrawingUnit unit);
 
 private:
     void chooseFileToOpen();

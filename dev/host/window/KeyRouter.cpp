@@ -2,10 +2,13 @@
 
 #include "dev/host/window/CommandLine.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QMainWindow>
+
+#include <utility>
 
 namespace devhost
 {
@@ -21,6 +24,15 @@ bool isPrintable(const QKeyEvent& key)
            !key.text().isEmpty() && key.text().at(0).isPrint();
 }
 
+/// @return whether what is typed goes into the widget as text.
+bool isTextField(const QWidget& widget)
+{
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget))
+        return view->editTriggers().testFlag(QAbstractItemView::AnyKeyPressed) &&
+               view->currentIndex().flags().testFlag(Qt::ItemIsEditable);
+    return widget.testAttribute(Qt::WA_InputMethodEnabled);
+}
+
 } // namespace
 
 KeyRouter::KeyRouter(QMainWindow& window, CommandLine& commandLine)
@@ -31,13 +43,14 @@ KeyRouter::KeyRouter(QMainWindow& window, CommandLine& commandLine)
 
 bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    // A key comes to its window first, then to a widget, then to that one's parents if it was not wanted.
+    const bool isForWidget = std::exchange(m_isInNativeWindow, watched->isWindowType());
+    if (!watched->isWidgetType() || !isForWidget)
         return false;
     auto* key = static_cast<QKeyEvent*>(event);
     const auto* widget = static_cast<QWidget*>(watched);
-    const QWidget* focus = QApplication::focusWidget();
-    if (focus != nullptr && focus != widget) // It had the key already, and did not want it.
-        return false;
     if (!isInWindow(*widget) || !isForCommandLine(*widget, *key))
         return false;
     m_commandLine.takeKey(key);
@@ -54,8 +67,7 @@ bool KeyRouter::isInWindow(const QWidget& widget) const
 
 bool KeyRouter::isForCommandLine(const QWidget& widget, const QKeyEvent& key) const
 {
-    // Text fields are what input methods may write into.
-    if (QApplication::activeModalWidget() != nullptr || widget.testAttribute(Qt::WA_InputMethodEnabled))
+    if (QApplication::activeModalWidget() != nullptr || isTextField(widget))
         return false;
     const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool hasNoUseForReturn = &widget == &m_window || m_commandLine.isAncestorOf(&widget);

@@ -31,6 +31,7 @@ private:
 
     QMainWindow& m_window;
     CommandLine& m_commandLine;
+    bool m_isInNativeWindow = false; // The key came to a window, and to no widget yet.
 };
 
 } // namespace devhost

@@ -181,7 +181,7 @@ void MainWindow::connectParts()
     connect(m_ribbon, &Ribbon::commandChosen, this, &MainWindow::runCommand);
     connect(m_menuBar, &HostMenuBar::userCommandChosen, this, &MainWindow::runUserCommand);
     connect(m_ribbon, &Ribbon::userCommandChosen, this, &MainWindow::runUserCommand);
-    connect(m_unitButton, &UnitButton::unitChosen, this, [this](DrawingUnit unit) { m_host->setUnit(unit); });
+    connect(m_unitButton, &UnitButton::unitChosen, m_drawingCommands.get(), &DrawingCommands::setUnit);
     connect(m_hostMenu, &HostMenu::darkThemeChosen, this, &MainWindow::applyTheme);
     connect(m_hostMenu, &HostMenu::nextConnectChosen, this, &MainWindow::offerReconnect);
     connect(m_hostMenu, &HostMenu::reconnectChosen, this, &MainWindow::reconnectRequested);
