@@ -11,6 +11,7 @@
 #include <random>
 
 using devhost::BlockPath;
+using devhost::DrawingUnit;
 using devhost::DwgContent;
 using devhost::LineType;
 using dwg::LineKind;
@@ -55,14 +56,14 @@ private slots:
     void damagedFilesAreSurvived();
 
 private:
-    DwgContent read(const QByteArray& bytes)
+    DwgContent read(const QByteArray& bytes, DrawingUnit unit = DrawingUnit::None)
     {
         const QString path = m_folder.filePath("part0.dwg");
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("The test's file cannot be written");
         file.close();
-        return devhost::readDwg(path);
+        return devhost::readDwg(path, unit);
     }
 
     std::unique_ptr<test::FatalWarnings> m_warnings;
@@ -94,6 +95,18 @@ void DwgReaderTest::readsLinesWithLineTypesAndColours()
     const BlockPath arc = pathOf(LineType::Centre);
     QCOMPARE(arc.rgb, 0xFF0000U);
     QVERIFY(qAbs(QPolygonF(arc.points).boundingRect().right() - 7.0) < 1e-3); // A half circle to the right.
+
+    QCOMPARE(content.unit, DrawingUnit::Centimetre);
+    const QVector<QPair<DrawingUnit, double>> lengths{{DrawingUnit::Millimetre, 10.0},
+                                                      {DrawingUnit::Inch, 1 / 2.54},
+                                                      {DrawingUnit::None, 1.0},
+                                                      {devhost::drawingUnitOf(-7), 1.0}};
+    for (const auto& [unit, factor] : lengths) {
+        const DwgContent converted = read(goodDrawing(), unit);
+        QCOMPARE(converted.factor, factor);
+        QCOMPARE(converted.geometry->paths.at(0).points.at(1),
+                 content.geometry->paths.at(0).points.at(1) * factor);
+    }
 }
 
 void DwgReaderTest::emptyDrawingDrawsNothing()

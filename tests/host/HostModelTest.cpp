@@ -22,7 +22,7 @@ private slots:
     void referencesAreCounted();
     void arraysCanHaveGapsAndStrangers();
     void promptsHandOverAnswersOneAtATime();
-    void impossibleBlocksAreRefused();
+    void blocksArePlacedAndErased();
 
 private:
     /// Prompts for a block. @return the result; into @p out what was answered.
@@ -121,7 +121,7 @@ void HostModelTest::promptsHandOverAnswersOneAtATime()
     QCOMPARE(asked.preset.rotation, 0.5);
 }
 
-void HostModelTest::impossibleBlocksAreRefused()
+void HostModelTest::blocksArePlacedAndErased()
 {
     m_host->newDocument();
     pvDocument_c* document = nullptr;
@@ -143,6 +143,20 @@ void HostModelTest::impossibleBlocksAreRefused()
     QCOMPARE(blocks.size(), std::size_t(1));
     QCOMPARE(blocks.front()->name(), QString("HostModelTest"));
     QCOMPARE(blocks.front()->placement().rotation, 0.5);
+
+    // Erased blocks come back to where they were in the order of drawing.
+    manager->InsertBlock2(file, 3, 4, 0, 1, 1, 1, 0, nullptr);
+    manager->InsertBlock2(file, 5, 6, 0, 1, 1, 1, 0, nullptr);
+    devhost::PlacedBlocks& content = m_host->activeDocument()->content();
+    const auto all = content.blocks().objects();
+    content.erase({all.at(2), all.at(0)});
+    QCOMPARE(content.blocks().objects(), (decltype(all){all.at(1)}));
+    content.history().undo();
+    QCOMPARE(content.blocks().objects(), all);
+    content.history().setIndex(0);
+    QVERIFY(content.blocks().objects().empty());
+    content.history().setIndex(3);
+    QCOMPARE(content.blocks().objects(), all);
 }
 
 QTEST_MAIN(HostModelTest)

@@ -1,7 +1,9 @@
 #include "dev/host/window/MainWindow.h"
 #include "dev/dwg/Writer.h"
 #include "dev/host/window/CommandLine.h"
+#include "dev/host/window/CommandShortcuts.h"
 #include "dev/host/window/DrawingArea.h"
+#include "dev/host/window/DrawingCommands.h"
 #include "dev/host/window/PlacementPrompt.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -11,11 +13,17 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QTabBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QtTest>
+
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
 
 #include <functional>
 #include <memory>
@@ -62,6 +70,9 @@ private slots:
     void unreadableFileIsPromptedForAsACross();
     void promptNeedsADrawing();
     void commandsAreRunByName();
+    void keysGoToTheCommandLineOrIntoTextFields();
+    void blocksAreSelectedErasedAndBroughtBack();
+    void drawingsAreOpenedAndCopied();
     void userCommandShowsOnMenuAndRibbon();
     void paneIsDockedAroundANativeWidget();
     void hostedWidgetsFollowTheTheme();
@@ -73,10 +84,19 @@ private:
     /// Has the add-in's side prompt for the file and insert the block, as add-ins do; @p user acts meanwhile.
     Placement place(const QString& file, const std::function<void()>& user);
     void type(const QString& text);
+    /// Presses a key in the window, wherever the focus is.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(m_window->windowHandle(), key, modifiers);
+    }
+    QString lastLine() const { return m_window->commandLine().history().constLast(); }
+    /// @return whether the menu entry and, where there is one, the ribbon button can be chosen.
+    bool isEnabled(const QString& command) const;
     /// Registers a command as add-ins do, which counts its runs.
     void registerCommand(const wchar_t* name, int* runs);
     std::vector<std::shared_ptr<devhost::HostBlockInstance>> blocks() const;
     QString drawingFile(const QByteArray& bytes);
+    QByteArray contentOf(const QString& name) const;
 
     std::unique_ptr<test::FatalWarnings> m_warnings;
     std::unique_ptr<MainWindow> m_window;
@@ -149,6 +169,12 @@ std::vector<std::shared_ptr<devhost::HostBlockInstance>> MainWindowTest::blocks(
     return m_window->host().activeDocument()->blocks().objects();
 }
 
+QByteArray MainWindowTest::contentOf(const QString& name) const
+{
+    QFile file(m_folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString MainWindowTest::drawingFile(const QByteArray& bytes)
 {
     QString path = m_folder.filePath("part0.dwg");
@@ -171,6 +197,8 @@ void MainWindowTest::clickPlacesTheBlock()
     });
     QVERIFY(placed.isAccepted());
     QCOMPARE(area.toPixel({placed.x, placed.y}), pixel);
+    QCOMPARE(lastLine(),
+             QString("Block part0 inserted at %1,%2.").arg(placed.x, 0, 'f', 4).arg(placed.y, 0, 'f', 4));
     QVERIFY(!area.isBlockAtCursor());
     QVERIFY(m_window->currentPrompt() == nullptr);
     QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
@@ -286,6 +314,124 @@ void MainWindowTest::commandsAreRunByName()
     QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
     QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
     QCOMPARE(m_window->commandLine().input()->text(), QString("LINE"));
+}
+
+bool MainWindowTest::isEnabled(const QString& command) const
+{
+    bool isEnabled = true;
+    int shown = 0;
+    for (const QObject* object : m_window->findChildren<QObject*>())
+        if (object->property(devhost::HostCommandProperty) == command) {
+            ++shown;
+            isEnabled = isEnabled && object->property("enabled").toBool();
+        }
+    return shown > 0 && isEnabled;
+}
+
+void MainWindowTest::keysGoToTheCommandLineOrIntoTextFields()
+{
+    QLineEdit* input = m_window->commandLine().input();
+    QVERIFY(input->hasFocus());
+    auto* field = new QLineEdit;
+    auto* list = new QTableWidget(1, 1); // Its items are editable, but not by typing.
+    list->setItem(0, 0, new QTableWidgetItem("item"));
+    list->setCurrentCell(0, 0);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto* button = new QPushButton("Button");
+    QSignalSpy clicks(button, &QPushButton::clicked);
+    for (QWidget* widget : std::initializer_list<QWidget*>{field, list, button}) {
+        m_window->centralWidget()->layout()->addWidget(widget);
+        widget->setFocus();
+        QTRY_VERIFY(widget->hasFocus());
+        press(Qt::Key_Space);
+        press(Qt::Key_N);
+        QCOMPARE(input->hasFocus(), widget != field);
+        QCOMPARE(input->text(), QString(widget != field ? "n" : ""));
+        input->clear();
+    }
+    QCOMPARE(field->text(), QString(" n"));
+    QCOMPARE(clicks.size(), 1);
+
+    field->setFocus();
+    QTest::mouseClick(&m_window->drawingArea(), Qt::LeftButton);
+    QVERIFY(input->hasFocus());
+}
+
+void MainWindowTest::blocksAreSelectedErasedAndBroughtBack()
+{
+    const auto erasedIs = [&](std::size_t left) {
+        return blocks().size() == left && m_window->drawingArea().selection().empty() && !isEnabled("ERASE");
+    };
+    QVERIFY(!isEnabled("UNDO") && !isEnabled("REDO") && !isEnabled("ERASE"));
+    for (const char* line : {"undo", "redo", "erase"})
+        type(line);
+    QVERIFY(place(m_file, [&] { type("2,2"); }).isAccepted());
+    QVERIFY(place(m_file, [&] { type("12,7"); }).isAccepted());
+    devhost::DrawingArea& area = m_window->drawingArea();
+    const auto click = [&](const QPointF& model, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::mouseClick(&area, Qt::LeftButton, modifiers, area.toPixel(model));
+        return area.selection().size();
+    };
+    QCOMPARE(click({4.0, 3.0}), std::size_t(1)); // On an edge each.
+    QCOMPARE(click({10.0, 6.0}), std::size_t(2));
+    QCOMPARE(click({10.0, 6.0}, Qt::ShiftModifier), std::size_t(1));
+    QVERIFY(isEnabled("ERASE"));
+    QCOMPARE(click({10.5, 6.0}), std::size_t(0));
+    click({4.0, 3.0});
+    press(Qt::Key_Escape);
+    QCOMPARE(area.selection().size(), std::size_t(0));
+
+    click({4.0, 3.0});
+    press(Qt::Key_Delete);
+    QVERIFY(erasedIs(1));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(erasedIs(2));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(erasedIs(1) && isEnabled("REDO"));
+    QCOMPARE(blocks().front()->placement().x, 2.0);
+    press(Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(erasedIs(2));
+    QVERIFY(place(m_file, [&] { type("0,0"); }).isAccepted());
+    QVERIFY(isEnabled("UNDO") && !isEnabled("REDO"));
+}
+
+void MainWindowTest::drawingsAreOpenedAndCopied()
+{
+    auto* unit = m_window->findChild<QToolButton*>("unit");
+    unit->menu()->actions().constFirst()->trigger();
+    QCOMPARE(unit->text(), QString("UNIT: mm"));
+    QVERIFY(place(m_file, [&] { type("100,50"); }).isAccepted());
+    QVERIFY(m_window->commandLine().history().contains(
+        "Its unit is cm; it is scaled by 10 to the drawing's, mm."));
+
+    devhost::DrawingCommands& commands = m_window->drawingCommands();
+    const QDir folder(m_folder.path());
+    commands.saveAs(folder.filePath("copy.dxf"));
+    commands.saveAs(folder.filePath("copy.SVG"));
+    GDALAllRegister();
+    const GDALDatasetUniquePtr dxf(GDALDataset::Open(qPrintable(folder.filePath("copy.dxf"))));
+    OGREnvelope extents;
+    QVERIFY(dxf && dxf->GetLayer(0)->GetExtent(&extents) == OGRERR_NONE);
+    QCOMPARE(QRectF(extents.MinX, extents.MinY, extents.MaxX - extents.MinX, extents.MaxY - extents.MinY),
+             QRectF(70.0, 30.0, 60.0, 40.0));
+    QVERIFY(contentOf("copy.dxf").contains("$INSUNITS\n 70\n     4\n"));
+    QCOMPARE(contentOf("copy.SVG").count("<polyline"), 2);
+
+    const QStringList files = folder.entryList(QDir::AllEntries | QDir::Hidden);
+    for (const char* impossible : {"copy.dwg", "missing/copy.dxf", "/proc/copy.svg"}) {
+        commands.saveAs(folder.filePath(impossible));
+        QVERIFY2(lastLine().startsWith("Cannot save " + folder.filePath(impossible) + ": "), impossible);
+    }
+    QCOMPARE(folder.entryList(QDir::AllEntries | QDir::Hidden), files);
+
+    commands.open(m_file);
+    QCOMPARE(m_window->windowTitle().count("[part0.dwg]"), 1);
+    QCOMPARE(unit->text(), QString("UNIT: cm")); // The file's, and that of no other drawing.
+    QCOMPARE(blocks().size(), std::size_t(1));
+    commands.open(drawingFile("noise"));
+    QCOMPARE(lastLine(), QString("Cannot read part0.dwg: it is not a DWG file."));
+    QCOMPARE(m_window->host().documents().objects().size(), std::size_t(2));
+    QVERIFY(isEnabled("OPEN") && isEnabled("SAVEAS") && !isEnabled("LINE"));
 }
 
 void MainWindowTest::userCommandShowsOnMenuAndRibbon()
