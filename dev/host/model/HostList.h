@@ -32,6 +32,9 @@ public:
     /// Adds an object of another class.
     void addStranger(std::shared_ptr<pvObject> object) { m_entries.push_back({nullptr, std::move(object)}); }
 
+    /// @return how many entries there are, gaps and strangers too.
+    std::size_t size() const { return m_entries.size(); }
+
     /// Drops the objects for which @p predicate(const Object&) is true. @return whether there were any.
     template <class Predicate>
     bool removeIf(Predicate predicate)

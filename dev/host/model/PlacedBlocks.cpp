@@ -13,7 +13,7 @@ PlacedBlocks::PlacedBlocks(std::shared_ptr<HostContext> context, DrawingUnit uni
 
 void PlacedBlocks::place(const std::shared_ptr<HostBlockInstance>& block)
 {
-    m_history.push(new BlockStep(*this, BlockStep::Kind::Place, {{m_blocks.objects().size(), block}}));
+    m_history.push(new BlockStep(*this, BlockStep::Kind::Place, {{m_blocks.size(), block}}));
 }
 
 void PlacedBlocks::erase(const std::vector<std::shared_ptr<HostBlockInstance>>& blocks)
