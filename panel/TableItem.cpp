@@ -2,6 +2,7 @@
 
 #include "panel/PartHarbor_2D.h"
 #include "panel/PreviewUI.h"
+#include "panel/RowFocus.h"
 #include "panel/ShownText.h"
 #include "service/PictureRequest.h"
 #include "ui_TableItem.h"
@@ -35,6 +36,7 @@ TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
     m_form->setupUi(this);
     // Kept free from the start, so that no row, and nothing around it, is laid out anew when a picture comes.
     m_form->gridLayout_4->setRowMinimumHeight(1, heightWithIcon(m_form->iconpushButton));
+    new RowFocus(this);
     connect(m_form->iconpushButton, SIGNAL(clicked()), this, SLOT(Preview()));
 }
 

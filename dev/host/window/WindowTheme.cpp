@@ -1,7 +1,8 @@
 #include "dev/host/window/WindowTheme.h"
 
+#include "dev/host/window/HostStyle.h"
+
 #include <QApplication>
-#include <QStyleFactory>
 #include <QToolTip>
 
 namespace devhost
@@ -56,7 +57,7 @@ QPalette windowPalette(bool dark)
 
 void applyWindowTheme(bool dark)
 {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new HostStyle);
     const QPalette palette = windowPalette(dark);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
