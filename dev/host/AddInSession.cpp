@@ -4,6 +4,9 @@
 #include "dev/host/window/MainWindow.h"
 #include "dev/host/window/PlacementPrompt.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace devhost
 {
 
@@ -45,6 +48,11 @@ bool AddInSession::connectAddIn()
     m_connected = m_library.connect(&m_window.host());
     m_window.commandLine().print(m_connected ? QString("Add-in %1 connected.").arg(m_library.identifier())
                                              : QString("The add-in refused to connect."));
+    if (!QFileInfo(QDir::currentPath()).isWritable())
+        m_window.commandLine().print(
+            QString("The current directory %1 cannot be written: the add-in will download no "
+                    "drawing, and not say so.")
+                .arg(QDir::toNativeSeparators(QDir::currentPath())));
     return m_connected;
 }
 

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
@@ -108,6 +109,12 @@ void AddInSessionTest::choicesTakeEffectAtTheNextConnect()
     window.host().journal().clear();
     QVERIFY(session.stop());
     QCOMPARE(window.host().journal().lines(), QStringList{R"(RemoveUserInterface("STAND-IN"))"});
+
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QTemporaryDir().path()); // Which is gone by the next line.
+    QVERIFY(session.start());
+    QVERIFY(window.commandLine().history().last().contains("cannot be written"));
+    QDir::setCurrent(before);
 }
 
 void AddInSessionTest::signalsEndTheEventLoops()

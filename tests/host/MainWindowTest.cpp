@@ -18,6 +18,7 @@
 #include <QTabBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -291,7 +292,9 @@ void MainWindowTest::promptNeedsADrawing()
     m_window->host().closeActiveDocument();
     const Placement placed = place(m_file, [] {});
     QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
-    QCOMPARE(m_window->commandLine().history().last(), QString("No drawing is open to place a block in."));
+    const QStringList said = m_window->commandLine().history();
+    QVERIFY(said.contains("The add-in has asked for the drawing, and none is open: NEW opens one."));
+    QCOMPARE(said.last(), QString("No drawing is open to place a block in."));
 }
 
 void MainWindowTest::commandsAreRunByName()
@@ -532,6 +535,14 @@ void MainWindowTest::hostedWidgetsFollowTheTheme()
                 QCOMPARE(old.styleSheet(), QString(sheet));
             }
         }
+        QPushButton flat("Flat", m_window.get());
+        flat.setFlat(true);
+        flat.setStyleSheet(sheet);
+        flat.show();
+        const QImage unfocused = flat.grab().toImage();
+        m_window->setAttribute(Qt::WA_KeyboardFocusChange); // As the Tab key does.
+        flat.setFocus(Qt::TabFocusReason);
+        QVERIFY(flat.grab().toImage() != unfocused);
     }
 }
 
@@ -559,8 +570,12 @@ void MainWindowTest::smallWindowLeadsToEverything()
     QVERIFY(isSeen());
 
     m_window->showGallery();
-    const auto* gallery = m_window->findChild<QDialog*>("widgetGallery");
-    QVERIFY(gallery->height() < gallery->screen()->availableGeometry().height());
+    m_window->findChild<QAction*>("unsaid")->trigger();
+    const QList<QDialog*> dialogs = m_window->findChildren<QDialog*>();
+    QCOMPARE(dialogs.size(), 2);
+    for (const QDialog* dialog : dialogs)
+        QVERIFY(dialog->height() < dialog->screen()->availableGeometry().height());
+    QVERIFY(m_window->findChild<QTextBrowser*>()->toPlainText().contains("page number"));
 }
 
 void MainWindowTest::drawingsOpenSwitchAndClose()

@@ -58,6 +58,7 @@ void KeyboardTest::openPage(const QString& page)
         m_panel->window().setCurrentIndex(m_panel->window().addTab(login, "Log In"));
     } else if (page == "results") {
         m_panel->showResults();
+        m_panel->window().resize(400, 320); // Has the second row out of sight.
     } else if (page == "detail") {
         m_panel->openFirstPart();
     }
@@ -73,7 +74,9 @@ QStringList KeyboardTest::tabThrough(Qt::Key key)
         press(key);
         if (QApplication::focusWidget() == m_panel->window().tabBar())
             break;
-        controls.append(nameOf(QApplication::focusWidget()));
+        const QWidget* focused = QApplication::focusWidget();
+        const bool isSeen = focused->visibleRegion().boundingRect().height() > focused->height() / 2;
+        controls.append(nameOf(focused) + (isSeen ? "" : " out of sight"));
     }
     return controls;
 }

@@ -249,6 +249,8 @@ pvResult HostApplication::OpenChmHelp(long topic, const pvString& file, bool* re
 
 pvResult HostApplication::GetActiveDocument(pvDocument_c** document)
 {
+    if (!activeDocument())
+        emit changes().drawingMissed();
     return call("GetActiveDocument").giveObject(document, activeDocument().get());
 }
 

@@ -14,6 +14,8 @@ class HostChanges : public QObject
 signals:
     void menusChanged();
     void ribbonChanged();
+    /// An add-in asked for the active drawing, and there is none.
+    void drawingMissed();
     /// A drawing was opened, closed, made the active one, or got another unit.
     void documentsChanged();
     /// Blocks came into a drawing, or went.

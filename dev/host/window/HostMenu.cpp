@@ -61,6 +61,9 @@ HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
     gallery->setObjectName("gallery");
     gallery->setToolTip("Shows standard widgets in the add-in's dark style sheet");
     connect(gallery, &QAction::triggered, this, &HostMenu::galleryChosen);
+    QAction* unsaid = addAction("What the Add-in Leaves &Unsaid…");
+    unsaid->setObjectName("unsaid");
+    connect(unsaid, &QAction::triggered, this, &HostMenu::unsaidChosen);
 }
 
 void HostMenu::addLanguages()

@@ -25,6 +25,7 @@ signals:
     void nextConnectChosen(const QString& consequence);
     void reconnectChosen();
     void galleryChosen();
+    void unsaidChosen();
 
 private:
     void addLanguages();

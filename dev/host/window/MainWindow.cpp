@@ -14,6 +14,7 @@
 #include "dev/host/window/ReconnectBar.h"
 #include "dev/host/window/Ribbon.h"
 #include "dev/host/window/SheetsSetAside.h"
+#include "dev/host/window/TextDialog.h"
 #include "dev/host/window/UnitButton.h"
 #include "dev/host/window/WidgetGallery.h"
 #include "dev/host/window/WindowTheme.h"
@@ -29,9 +30,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-static void initializeIcons()
+static void initializeResources()
 {
     Q_INIT_RESOURCE(devhost_icons); // Has to be called outside of any namespace.
+    Q_INIT_RESOURCE(devhost_texts);
 }
 
 namespace devhost
@@ -63,7 +65,7 @@ MainWindow::MainWindow(const HostSettings& settings, QWidget* parent)
       m_gridButton(new QToolButton),
       m_unitButton(new UnitButton)
 {
-    initializeIcons();
+    initializeResources();
     setObjectName("mainWindow");
     resize(InitialSize);
     m_host->settings() = settings;
@@ -172,6 +174,9 @@ void MainWindow::connectParts()
     const HostChanges& changes = m_host->changes();
     connect(&changes, &HostChanges::menusChanged, this, &MainWindow::showMenus);
     connect(&changes, &HostChanges::ribbonChanged, this, &MainWindow::showRibbon);
+    connect(&changes, &HostChanges::drawingMissed, this, [this] {
+        m_commandLine->print("The add-in has asked for the drawing, and none is open: NEW opens one.");
+    });
     connect(&changes, &HostChanges::documentsChanged, this, &MainWindow::showDocuments);
     connect(&changes, &HostChanges::blocksChanged, m_drawingArea, &DrawingArea::showBlocks);
     connect(&changes, &HostChanges::blocksChanged, this, &MainWindow::showAvailability);
@@ -188,6 +193,7 @@ void MainWindow::connectParts()
     connect(m_reconnectBar, &ReconnectBar::reconnectChosen, this, &MainWindow::reconnectRequested);
     connect(this, &MainWindow::reconnectRequested, m_reconnectBar, &QWidget::hide);
     connect(m_hostMenu, &HostMenu::galleryChosen, this, &MainWindow::showGallery);
+    connect(m_hostMenu, &HostMenu::unsaidChosen, this, &MainWindow::showUnsaid);
     connect(m_gridButton, &QToolButton::clicked, this, &MainWindow::toggleGrid);
 
     connect(m_commandLine, &CommandLine::submitted, this, &MainWindow::takeText);
@@ -347,6 +353,13 @@ void MainWindow::showGallery()
     auto* gallery = new WidgetGallery(AddInStyleSheet, this);
     gallery->setAttribute(Qt::WA_DeleteOnClose);
     gallery->show();
+}
+
+void MainWindow::showUnsaid()
+{
+    auto* text = new TextDialog("What the Add-in Leaves Unsaid", ":/devhost/unsaid.md", this);
+    text->setAttribute(Qt::WA_DeleteOnClose);
+    text->show();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

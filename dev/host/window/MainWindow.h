@@ -70,6 +70,7 @@ private:
     void showMenus();
     void showRibbon();
     void showDocuments();
+    void showUnsaid();
     QWidget* createCloseButton(const HostDocument& document);
     void showCursor(const QPointF& model);
     void toggleGrid();
