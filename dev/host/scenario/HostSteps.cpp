@@ -5,8 +5,10 @@
 #include "dev/host/window/CommandLine.h"
 #include "dev/host/window/MainWindow.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
@@ -133,6 +135,33 @@ TourStep HostSteps::openHelp() const
         const QString call =
             m_window.host().journal().lines().value(m_window.host().journal().lines().size() - 1);
         return {call.startsWith("OpenChmHelp") || call.startsWith("OpenWebHelp"), call};
+    };
+    return step;
+}
+
+TourStep HostSteps::switchTheme() const
+{
+    const bool toDark = !m_window.chosenSettings().darkTheme;
+    TourStep step;
+    step.name = "Switch the theme";
+    step.act = [toDark] {
+        QString problem = userInput::press(Qt::Key_S, Qt::AltModifier);
+        for (const Qt::Key key : {Qt::Key_T, toDark ? Qt::Key_D : Qt::Key_L})
+            problem += userInput::press(key);
+        return problem;
+    };
+    step.look = [=]() -> Observation {
+        const QWidget* pane = m_pages.dock();
+        const QColor wanted = QApplication::palette().color(QPalette::WindowText);
+        int others = 0;
+        for (const QLabel* label : pane != nullptr ? pane->findChildren<QLabel*>() : QList<QLabel*>())
+            others += label->isVisible() && label->palette().color(QPalette::WindowText) != wanted ? 1 : 0;
+        const bool isOffered = m_window.findChild<QWidget*>("reconnectBar")->isVisible();
+        return {m_window.chosenSettings().darkTheme == toDark && others == 0 && isOffered,
+                QString("the host is %1, the pane has %2 texts in another colour, a reconnect is %3")
+                    .arg(m_window.chosenSettings().darkTheme ? "dark" : "light")
+                    .arg(others)
+                    .arg(isOffered ? "offered" : "not offered")};
     };
     return step;
 }

@@ -34,6 +34,8 @@ public:
     TourStep chooseMenuEntry(bool showsPane) const;
     /// Outcome: the host was asked for the add-in's help.
     TourStep openHelp() const;
+    /// By the Host menu. Outcome: the pane's texts have the other theme's colour, and a reconnect is offered.
+    TourStep switchTheme() const;
     /// Outcome: pane and library are gone, and nothing of the add-in is left.
     TourStep lookForRemains(bool isUnloaded) const;
     /// Outcome: the host knows the command no more.

@@ -37,6 +37,7 @@ Scenario shortScenario(const HostSteps& host, const PaneSteps& pane, const Place
         placement.redoPlacement(),
         pane.goBackToResults(),
         placement.lookAtDrawing(1),
+        host.switchTheme(),
     };
 }
 

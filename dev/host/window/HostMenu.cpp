@@ -33,7 +33,7 @@ constexpr Language Languages[] = {
 } // namespace
 
 HostMenu::HostMenu(const HostSettings& settings, QWidget* parent)
-    : QMenu("H&ost", parent), m_settings(settings)
+    : QMenu("Ho&st", parent), m_settings(settings)
 {
     setObjectName("hostMenu");
     setToolTipsVisible(true);
