@@ -1,5 +1,4 @@
 #include "tests/addin/LoadedAddIn.h"
-#include "tests/support/CannedReplies.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -9,7 +8,6 @@
 #include <QTest>
 
 using devhost::Outcome;
-using test::ScriptedReply;
 
 namespace
 {
@@ -103,7 +101,6 @@ private slots:
     void theHandleNamesNoWidget();
 
 private:
-    void prepareCatalog();
     /// Plays the scenario. @return what of the effects was seen.
     QStringList effectsOfAScenario();
     void lookAtRegistrations();
@@ -124,7 +121,7 @@ void FailingHostTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QDir::setCurrent(m_folder->path());
     m_addIn = std::make_unique<test::LoadedAddIn>();
-    prepareCatalog();
+    m_addIn->openCatalog();
     m_addIn->view().acceptPromptsAt(10, 20);
     m_addIn->host().newDocument();
 }
@@ -136,22 +133,6 @@ void FailingHostTest::cleanup()
     m_addIn.reset();
     QDir::setCurrent(QDir::rootPath());
     m_folder.reset();
-}
-
-void FailingHostTest::prepareCatalog()
-{
-    m_addIn->catalog().proxy().setRefusing(false);
-    test::ScriptedService& service = m_addIn->catalog().service();
-    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"})
-        service.setReply(operation, ScriptedReply::result(operation, "text"));
-    service.setReply("SimpleSearchAcrossCatalogs", test::searchReply(test::hits(1)));
-    service.setReply("GetConfigInfo", test::configurationsReply({"M8"}));
-    service.setReply("GetConfigParams", ScriptedReply::xml("<none/>"));
-    service.setReply(
-        "GetDownload2D",
-        ScriptedReply::result("GetDownload2D", "https://" + test::ScriptedCatalog::host() + "/part.dwg"));
-    service.setReply("/part.dwg", ScriptedReply::status(200, "drawing", "application/octet-stream"));
-    service.setReply("/pictures/part.png", test::pictureReply(test::pngPicture({8, 8})));
 }
 
 QStringList FailingHostTest::effectsOfAScenario()

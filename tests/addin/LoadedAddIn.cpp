@@ -1,5 +1,7 @@
 #include "tests/addin/LoadedAddIn.h"
 
+#include "tests/support/CannedReplies.h"
+
 #include <QApplication>
 #include <QEvent>
 
@@ -36,6 +38,23 @@ void LoadedAddIn::addInterface()
     row.addButton("OTHER-ADD-IN", {"Other", QString(), "UserCommand_Other"});
     tab.addPanel("ID_LastPanel", "Last", "ID_ImportPANELROW");
     workspace.addTab("ID_ViewTab", "View");
+}
+
+void LoadedAddIn::openCatalog(const QString& held)
+{
+    m_catalog.proxy().setRefusing(false);
+    const auto serve = [&](const QString& key, const ScriptedReply& reply) {
+        m_catalog.service().setReply(key, key == held ? reply.heldAfter(7) : reply);
+    };
+    for (const char* operation : {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin"})
+        serve(operation, ScriptedReply::result(operation, "text"));
+    serve("SimpleSearchAcrossCatalogs", searchReply(hits(1)));
+    serve("GetConfigInfo", configurationsReply({"M8"}));
+    serve("GetConfigParams", ScriptedReply::xml(ScriptedReply::envelope({})));
+    serve("GetDownload2D",
+          ScriptedReply::result("GetDownload2D", "https://" + ScriptedCatalog::host() + "/part.dwg"));
+    serve("/part.dwg", ScriptedReply::status(200, "a drawing", "application/octet-stream"));
+    serve("/pictures/part.png", pictureReply(pngPicture({8, 8})));
 }
 
 QStringList LoadedAddIn::leave()

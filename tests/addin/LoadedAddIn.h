@@ -6,10 +6,9 @@
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/MessageBoxAnswerer.h"
 #include "tests/support/ScriptedCatalog.h"
+#include "tests/support/WaitUntil.h"
 
-#include <QCoreApplication>
 #include <QStringList>
-#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -41,6 +40,10 @@ public:
 
     bool connect() { return m_library.connect(m_host.get()); }
     bool disconnect() { return m_library.disconnect(); }
+    /// Has the catalog answer all that a user's way to a placed drawing asks for: one hit, and every text is
+    /// "text".
+    /// @param held key of the one reply of which the service sends only the first bytes; empty for none.
+    void openCatalog(const QString& held = QString());
     /// Disconnects and unloads. @return what is left of the add-in: references, widgets, the library itself.
     QStringList leave();
 
@@ -68,20 +71,6 @@ private:
     int m_widgetsBefore;
     devhost::AddInLibrary m_library;
 };
-
-/// Turns the event loop until @p condition() is true, looking after every event; QTRY_* looks every 50 ms,
-/// which is most of the time of a test with many short waits. @return whether it became true within half a
-/// minute.
-template <class Condition>
-bool waitUntil(Condition condition)
-{
-    QTimer patience;
-    patience.setSingleShot(true);
-    patience.start(30000);
-    while (!condition() && patience.isActive())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return condition();
-}
 
 /// The add-in's identifier, with which it registers everything.
 extern const QString AddInIdentifier;

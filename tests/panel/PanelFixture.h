@@ -38,6 +38,7 @@ public:
     PanelFixture& operator=(const PanelFixture&) = delete;
 
     ScriptedService& service() { return m_service; }
+    TestCertificates& certificates() { return m_certificates; }
     devcatalog::ConnectProxy& proxy() { return m_proxy; }
     FatalWarnings& warnings() { return m_warnings; }
     MessageBoxAnswerer& answerer() { return m_answerer; }

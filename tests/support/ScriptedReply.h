@@ -43,6 +43,7 @@ public:
 
     /// What goes over the wire.
     QByteArray bytes() const { return m_head + m_body; }
+    QByteArray body() const { return m_body; }
     /// The position in bytes() from which they wait for release(); -1 for none.
     int heldFrom() const { return m_heldFrom; }
     Ending ending() const { return m_ending; }

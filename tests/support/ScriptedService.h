@@ -32,6 +32,8 @@ public:
     explicit ScriptedService(const ServerIdentity& identity, QObject* parent = nullptr);
 
     quint16 port() const { return m_server.serverPort(); }
+    /// What later connections are shown.
+    void setIdentity(const ServerIdentity& identity) { m_server.setIdentity(identity); }
 
     /// The answer whenever nothing is queued.
     void setReply(const QString& key, const ScriptedReply& reply);

@@ -17,6 +17,8 @@ class HttpsServer : public QTcpServer
 public:
     explicit HttpsServer(const ServerIdentity& identity, QObject* parent = nullptr);
 
+    /// What later connections are shown.
+    void setIdentity(const ServerIdentity& identity);
     /// Takes the port; 0 for any free one. @return whether it could be had; see errorString().
     bool takePort(quint16 port) { return listen(QHostAddress::LocalHost, port); }
 
