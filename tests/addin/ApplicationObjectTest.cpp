@@ -68,6 +68,9 @@ void ApplicationObjectTest::whatOutlivesADisconnect()
     QCOMPARE(&slot, &GetAddInSlot());
     QVERIFY(slot.application == nullptr && slot.applicationID == pvString());
     QVERIFY(HasSignedByPlotvane(nullptr, nullptr, nullptr, nullptr));
+    pvString identifier;
+    QVERIFY(HasSignedByPlotvane(&identifier, nullptr, nullptr, nullptr));
+    QVERIFY(identifier == DockWidgetApplication::appID);
 
     QVERIFY(connectToPlotvane(77, m_host.get()));
     QVERIFY(DockWidgetApplication::GetLogInPage() == nullptr); // never handed out

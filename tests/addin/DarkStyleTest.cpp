@@ -3,7 +3,10 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QFile>
+#include <QFrame>
+#include <QRegularExpression>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWidget>
 
 #include <memory>
@@ -45,6 +48,7 @@ private slots:
     void onlyZeroIsLight();
     void theOlderNumberIsTriedWhereTheNewerIsRefused();
     void withoutAWindowManagerNoWindowIsMade();
+    void colours();
 
 private:
     std::unique_ptr<test::FatalWarnings> m_warnings;
@@ -84,6 +88,36 @@ void DarkStyleTest::withoutAWindowManagerNoWindowIsMade()
     applyDarkStyle(&widget);
     QCOMPARE(widget.internalWinId(), WId(0));
     QVERIFY(!widget.styleSheet().isEmpty());
+}
+
+void DarkStyleTest::colours()
+{
+    QWidget window;
+    auto* tree = new QTreeWidget(&window);
+    auto* frame = new QFrame(&window);
+    frame->setFrameShape(QFrame::StyledPanel);
+    applyDarkStyle(&window);
+    window.show();
+    QCOMPARE(window.palette().color(QPalette::Window), QColor("#333538"));
+    QCOMPARE(window.palette().color(QPalette::WindowText), QColor("#cfcfcf"));
+    QCOMPARE(tree->palette().color(QPalette::Base), QColor("#1e2023"));
+    QCOMPARE(frame->grab().toImage().pixelColor(0, 0), QColor("#4a4a4a"));
+    tree->setFocus();
+    QTRY_COMPARE(tree->grab().toImage().pixelColor(0, 0), QColor("#284c93"));
+    window.setEnabled(false);
+    QCOMPARE(window.palette().color(QPalette::WindowText), QColor("#646464"));
+
+    // Nor does any part of the sheet have a colour of its own.
+    QStringList colours;
+    auto found = QRegularExpression("#[0-9a-f]{6}").globalMatch(window.styleSheet());
+    while (found.hasNext())
+        colours.append(found.next().captured());
+    colours.removeDuplicates();
+    colours.sort();
+    QCOMPARE(colours, QString("#17191b #1e2023 #282a2e #284c93 #2a2c30 #2a303c #2b2f36 #333538 #34425a "
+                              "#3b86cc #3d5072 #3f4246 #404348 "
+                              "#4a4a4a #4a4d52 #646464 #8a8a8a #cfcfcf #ffffff")
+                          .split(' '));
 }
 
 QTEST_MAIN(DarkStyleTest)

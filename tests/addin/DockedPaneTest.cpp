@@ -76,9 +76,11 @@ void DockedPaneTest::theHelpButtonStandsInTheCorner()
 {
     const auto* corner = qobject_cast<QFrame*>(tabs()->cornerWidget(Qt::TopRightCorner));
     QVERIFY(corner != nullptr && corner->isVisible());
+    QCOMPARE(corner->frameStyle(), QFrame::StyledPanel | QFrame::Plain);
     const auto* layout = qobject_cast<QHBoxLayout*>(corner->layout());
     QVERIFY(layout != nullptr);
     QCOMPARE(layout->contentsMargins(), QMargins());
+    QCOMPARE(layout->spacing(), 0);
     QCOMPARE(layout->stretch(0), 129);
     QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
     const auto* help = qobject_cast<QPushButton*>(layout->itemAt(0)->widget());

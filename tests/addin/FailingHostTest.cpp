@@ -242,6 +242,9 @@ void FailingHostTest::oneCallFails_data()
         const bool isPane = failure.call == QLatin1String("CreateCustomPropertyControl2");
         QTest::addRow("%s works and claims failure", failure.call)
             << failure.call << PVRESULT_False << Outcome::Usual << (isPane ? Panel : QStringList());
+        if (isPane)
+            QTest::addRow("%s works and claims neither", failure.call)
+                << failure.call << static_cast<pvResult>(2) << Outcome::Usual << Panel;
     }
 }
 

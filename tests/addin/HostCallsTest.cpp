@@ -220,6 +220,12 @@ void HostCallsTest::registration_data()
     row("negative creation error",
         [](HostApplication& host) { host.refuseCommands(pvCreateCommandError_e(-1)); }, {});
     row(
+        "pane not shown by the host",
+        [](HostApplication& host) {
+            host.answers().fail("CustomPropertyControl.put_Visible", PVRESULT_False);
+        },
+        commands + entry + button);
+    row(
         "no import menu",
         [](HostApplication& host) {
             host.menus() = {};

@@ -85,6 +85,13 @@ void HostThemeTest::iconsAndBoxes_data()
     row(
         "dark", [](auto& host) { host.settings().darkTheme = true; }, DarkIcon, true, 1);
     row(
+        "dark in another way",
+        [](auto& host) {
+            host.settings().darkTheme = true;
+            host.settings().darkThemeValue = 2;
+        },
+        DarkIcon, true, 1);
+    row(
         "no options", [](auto& host) { host.answers().fail("GetApplicationOptions", PVRESULT_False); },
         DarkIcon, true, 0);
     row(

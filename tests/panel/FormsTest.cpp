@@ -251,6 +251,8 @@ void FormsTest::translatedTexts()
     QCoreApplication::removeTranslator(&translator);
 
     QCOMPARE(container.windowTitle(), QString("ParentWidget|ParentWidget"));
+    QCOMPARE(container.layout()->contentsMargins(), QMargins(2, 2, 1, 1));
+    QCOMPARE(container.findChild<QFrame*>("frame")->frameStyle(), QFrame::StyledPanel | QFrame::Raised);
     compareTexts(panel, {{"", "windowTitle", "PartHarbor_2DMain|CircleInserter"}});
     compareTexts(results, {{"", "windowTitle", "PartHarbor_2D|PartHarbor_2D"},
                            {"prev_pushButton", "text", "PartHarbor_2D|<"},

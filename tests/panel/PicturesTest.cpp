@@ -205,14 +205,10 @@ void PicturesTest::unusablePictures_data()
     QTest::addColumn<ScriptedReply>("reply");
     QTest::addRow("empty") << pictureReply({});
     QTest::addRow("text") << pictureReply("no picture");
-    QTest::addRow("not found") << ScriptedReply::status(404, "nothing there");
     QTest::addRow("cut image") << pictureReply(png.left(png.size() / 2));
     QTest::addRow("cut photograph") << pictureReply(picture("JPG").chopped(2));
     QTest::addRow("cut bitmap") << pictureReply(picture("BMP").chopped(1));
     QTest::addRow("head of an image") << pictureReply(png.left(30));
-    QTest::addRow("cut transfer") << ScriptedReply::cutShort(png.left(png.size() / 2));
-    QTest::addRow("reset") << ScriptedReply::reset();
-    QTest::addRow("endless") << pictureReply(QByteArray(40'000'000, 'x')).heldAfter(39'000'000);
     QTest::addRow("huge") << pictureReply(hugePicture());
     QTest::addRow("huge in an icon") << pictureReply(iconAround(hugePicture()));
     QTest::addRow("many scans") << pictureReply(photographOfManyScans());

@@ -41,7 +41,6 @@ ScenarioFixture::ScenarioFixture()
 
 ScenarioFixture::~ScenarioFixture()
 {
-    release();
     stopCatalog();
     if (m_library.isLoaded())
         m_library.disconnect();
@@ -56,9 +55,6 @@ devcatalog::CatalogServerOptions ScenarioFixture::options()
     options.serviceHost = ScriptedCatalog::host().toStdString();
     options.port = 0;
     options.certificateFolder = m_certificateFolder.filePath("certificates").toStdString();
-    options.beforeReply = [this](const devcatalog::HttpRequest& request, devcatalog::HttpReply&) {
-        keepBack(request);
-    };
     return options;
 }
 
@@ -91,38 +87,9 @@ QStringList ScenarioFixture::files()
     return QDir::current().entryList(QDir::Files | QDir::Hidden);
 }
 
-void ScenarioFixture::hold(const QString& operationOrPath)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_heldKey = operationOrPath;
-}
-
-bool ScenarioFixture::isHeld()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_heldCount > 0;
-}
-
-void ScenarioFixture::release()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_heldKey.clear();
-    m_heldCount = 0;
-    m_released.notify_all();
-}
-
-void ScenarioFixture::keepBack(const devcatalog::HttpRequest& request)
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    if (m_heldKey.isEmpty() || (request.operation() != m_heldKey && !request.path().startsWith(m_heldKey)))
-        return;
-    ++m_heldCount;
-    m_released.wait(lock, [this] { return m_heldKey.isEmpty(); });
-}
-
 void ScenarioFixture::waitFor(const std::function<bool()>& condition)
 {
-    QVERIFY(QTest::qWaitFor([&] { return condition() || isHeld(); }, Patience));
+    QVERIFY(QTest::qWaitFor(condition, Patience));
 }
 
 void ScenarioFixture::connect()

@@ -14,17 +14,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include <condition_variable>
 #include <functional>
 #include <memory>
-#include <mutex>
 
 namespace test
 {
 
 /**
  * The built library in a host, before the development catalog over HTTPS, in a current directory of its own.
- * The steps of a user wait for their outcome, or until a reply is held.
+ * The steps of a user wait for their outcome.
  *
  * Made in init() and destroyed in cleanup() (see FatalWarnings).
  */
@@ -43,7 +41,6 @@ public:
     void stopCatalog();
     /// Starts it again; it knows no session of before.
     void restartCatalog();
-    devhost::AddInLibrary& library() { return m_library; }
     devhost::HostApplication& host() { return *m_host; }
     ScriptedHostView& view() { return m_view; }
     const devhost::PaneUser& user() const { return m_user; }
@@ -51,12 +48,6 @@ public:
     QStringList boxTexts() const;
     /// @return the names of the files in the current directory.
     static QStringList files();
-
-    /// Has the catalog keep back its replies to an operation, or to paths that begin with a text.
-    void hold(const QString& operationOrPath);
-    bool isHeld();
-    /// Lets all replies go, also later ones.
-    void release();
 
     /// Connects, and waits until the add-in has its key from the catalog.
     void connect();
@@ -76,7 +67,6 @@ public:
 
 private:
     devcatalog::CatalogServerOptions options();
-    void keepBack(const devcatalog::HttpRequest& request);
     void waitFor(const std::function<bool()>& condition);
 
     FatalWarnings m_warnings;
@@ -84,11 +74,6 @@ private:
     QTemporaryDir m_currentFolder;
     QString m_folderBefore;
     QSslConfiguration m_tlsBefore;
-
-    std::mutex m_mutex; ///< guards what the catalog's threads use
-    std::condition_variable m_released;
-    QString m_heldKey; ///< empty when nothing is held
-    int m_heldCount = 0;
 
     devcatalog::PartCatalog m_parts;
     devcatalog::CatalogServer m_server;

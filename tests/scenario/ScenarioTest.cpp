@@ -49,8 +49,6 @@ private slots:
 
     void whatTheCatalogHoldsArrives();
     void theCatalogMayStopAndComeBack();
-    void theLibraryMayGoWhileAReplyIsOnItsWay_data();
-    void theLibraryMayGoWhileAReplyIsOnItsWay();
 
 private:
     void compareRows(const QString& term, std::size_t page);
@@ -140,39 +138,6 @@ void ScenarioTest::theCatalogMayStopAndComeBack()
     compareRows(term, 2);
     m_scenario->logIn();
     QCOMPARE(m_scenario->boxTexts().constLast(), QString("Login is successful."));
-}
-
-void ScenarioTest::theLibraryMayGoWhileAReplyIsOnItsWay_data()
-{
-    QTest::addColumn<QString>("held");
-    for (const char* held :
-         {"ServiceLogin", "GenerateApiKeyByDescription", "UserLogin", "SimpleSearchAcrossCatalogs",
-          "/Thumbnails/", "GetConfigInfo", "GetConfigParams", "GetDownload2D", "/Downloads/"})
-        QTest::newRow(held) << held;
-}
-
-void ScenarioTest::theLibraryMayGoWhileAReplyIsOnItsWay()
-{
-    QFETCH(const QString, held);
-    m_scenario->hold(held);
-    const std::vector<std::function<void()>> steps{
-        [this] { m_scenario->connect(); },         [this] { m_scenario->logIn(); },
-        [this] { m_scenario->searchFor("bolt"); }, [this] { m_scenario->waitForResults(); },
-        [this] { m_scenario->openPart(0); },       [this] { m_scenario->clickPreview(); },
-    };
-    for (const auto& step : steps)
-        if (!m_scenario->isHeld())
-            step();
-    QTRY_VERIFY_WITH_TIMEOUT(m_scenario->isHeld(), Patience);
-
-    QVERIFY(m_scenario->library().disconnect());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(m_scenario->host().references().outstanding(), 0);
-    QVERIFY(m_scenario->library().unload());
-    m_scenario->release();
-    m_scenario->stopCatalog();
-    QVERIFY(m_scenario->view().prompts().empty());
-    QCOMPARE(test::ScenarioFixture::files(), QStringList());
 }
 
 QTEST_MAIN(ScenarioTest)

@@ -6,7 +6,7 @@
 namespace test
 {
 
-ServiceFixture::ServiceFixture(ScriptedCatalog::Identity identity) : m_catalog(identity)
+ServiceFixture::ServiceFixture()
 {
     g_darkMode = 0;
     ApiKey.clear();

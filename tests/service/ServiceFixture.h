@@ -16,8 +16,7 @@ namespace test
 class ServiceFixture
 {
 public:
-    /// @param identity which of the certificates the service shows.
-    explicit ServiceFixture(ScriptedCatalog::Identity identity = &TestCertificates::good);
+    ServiceFixture();
 
     FatalWarnings& warnings() { return m_warnings; }
     ScriptedService& service() { return m_catalog.service(); }

@@ -5,9 +5,9 @@
 namespace test
 {
 
-ScriptedCatalog::ScriptedCatalog(Identity identity)
+ScriptedCatalog::ScriptedCatalog()
     : m_certificates(QUrl("https://" + host()).host()),
-      m_service((m_certificates.*identity)()),
+      m_service(m_certificates.good()),
       m_proxy(m_service.port())
 {
     m_certificates.trust();

@@ -14,10 +14,7 @@ namespace test
 class ScriptedCatalog
 {
 public:
-    using Identity = ServerIdentity (TestCertificates::*)() const;
-
-    /// @param identity which of the certificates the service shows.
-    explicit ScriptedCatalog(Identity identity = &TestCertificates::good);
+    ScriptedCatalog();
 
     /// The service host that the tests are built for, with its port.
     static QString host();
