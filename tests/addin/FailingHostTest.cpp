@@ -1,9 +1,7 @@
+#include "dev/host/headless/PaneUser.h"
 #include "tests/addin/LoadedAddIn.h"
 
-#include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -113,6 +111,7 @@ private:
     QStringList m_seen;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<test::LoadedAddIn> m_addIn;
+    std::unique_ptr<devhost::PaneUser> m_user;
 };
 
 void FailingHostTest::init()
@@ -121,6 +120,7 @@ void FailingHostTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QDir::setCurrent(m_folder->path());
     m_addIn = std::make_unique<test::LoadedAddIn>();
+    m_user = std::make_unique<devhost::PaneUser>(m_addIn->view());
     m_addIn->openCatalog();
     m_addIn->view().acceptPromptsAt(10, 20);
     m_addIn->host().newDocument();
@@ -142,10 +142,9 @@ QStringList FailingHostTest::effectsOfAScenario()
     lookAtRegistrations();
     if (m_addIn->view().paneWidget() != nullptr)
         m_addIn->view().paneWidget()->show(); // by the user
-    if (auto* tabs = m_addIn->shown<QTabWidget>("QTabWidget")) {
+    if (m_addIn->shown("QTabWidget") != nullptr) {
         askForHelp();
         logIn();
-        tabs->setCurrentIndex(1);
         placeABlock();
     }
     m_addIn->disconnect();
@@ -192,22 +191,21 @@ void FailingHostTest::logIn()
 {
     // Both pages have their key: only then can the Panel search.
     QVERIFY(test::waitUntil([this] { return m_addIn->warnings().debugLines().size() == 4; }));
-    QTest::keyClicks(m_addIn->shown("QLineEdit", "email_lineEdit"), "a@b.example");
-    QTest::keyClicks(m_addIn->shown("QLineEdit", "Pass_lineEdit_2"), "secret");
-    QTest::mouseClick(m_addIn->shown("QPushButton", "LogIn_pushButton"), Qt::LeftButton);
+    m_user->logIn("a@b.example", "secret");
     QVERIFY(test::waitUntil([this] { return m_addIn->answerer().boxes().size() == 1; }));
     note(m_addIn->answerer().boxes().last().text == "Login is successful.", Login);
 }
 
 void FailingHostTest::placeABlock()
 {
-    QTest::keyClicks(m_addIn->shown("QLineEdit", "SearchLine"), "bolt");
-    QTest::keyClick(m_addIn->shown("QLineEdit", "SearchLine"), Qt::Key_Return);
-    QVERIFY(test::waitUntil([this] { return m_addIn->shown("QPushButton", "iconpushButton") != nullptr; }));
-    QTest::mouseClick(m_addIn->shown("QPushButton", "iconpushButton"), Qt::LeftButton);
+    m_user->openSearchTab();
+    m_user->typeTerm("bolt");
+    m_user->pressReturn();
+    QVERIFY(test::waitUntil([this] { return !m_user->rows().isEmpty(); }));
+    m_user->openPart(0);
     QVERIFY(test::waitUntil(
         [this] { return m_addIn->catalog().service().requests("GetConfigParams").size() == 1; }));
-    QTest::mouseClick(m_addIn->shown("ClickableLabel"), Qt::LeftButton);
+    m_user->clickPreview();
     // The last call of the scenario that the add-in makes in every host. The Prompt follows in the same turn.
     QVERIFY(
         test::waitUntil([this] { return m_addIn->host().journal().names().contains("GetCommandMessage"); }));

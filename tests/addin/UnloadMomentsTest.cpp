@@ -1,11 +1,10 @@
+#include "dev/host/headless/PaneUser.h"
 #include "tests/addin/LoadedAddIn.h"
 #include "tests/support/NetworkWatch.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QPointer>
 #include <QProcess>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -127,30 +126,25 @@ bool UnloadMomentsTest::waitOrStop(const std::function<bool()>& condition)
 
 void UnloadMomentsTest::goOn(bool logsIn)
 {
-    const auto clickOrPress = [](QWidget* widget) {
-        const QPointer<QWidget> guard(widget);
-        QTest::mousePress(widget, Qt::LeftButton);
-        if (!guard.isNull()) // the press itself may have taken the pane away
-            QTest::mouseRelease(widget, Qt::LeftButton);
-    };
+    const devhost::PaneUser user(m_addIn->view());
     // Both pages have their key: only then can the panel search.
     if (waitOrStop([this] { return m_addIn->warnings().debugLines().size() == 4; }))
         return;
     if (logsIn) {
-        clickOrPress(m_addIn->shown("QPushButton", "LogIn_pushButton"));
+        user.logIn("a@b.example", "secret");
         if (waitOrStop([this] { return !m_addIn->answerer().boxes().isEmpty(); }))
             return;
     }
-    m_addIn->shown<QTabWidget>("QTabWidget")->setCurrentIndex(1);
-    QTest::keyClicks(m_addIn->shown("QLineEdit", "SearchLine"), "bolt");
-    QTest::keyClick(m_addIn->shown("QLineEdit", "SearchLine"), Qt::Key_Return);
-    if (waitOrStop([this] { return m_addIn->shown("QPushButton", "iconpushButton") != nullptr; }))
+    user.openSearchTab();
+    user.typeTerm("bolt");
+    user.pressReturn();
+    if (waitOrStop([&] { return !user.rows().isEmpty(); }))
         return;
-    clickOrPress(m_addIn->shown("QPushButton", "iconpushButton"));
+    user.openPart(0);
     test::ScriptedService& service = m_addIn->catalog().service();
     if (waitOrStop([&] { return service.requests("GetConfigParams").size() == 1; }))
         return;
-    clickOrPress(m_addIn->shown("ClickableLabel"));
+    QTest::mousePress(user.preview(), Qt::LeftButton); // which may take the preview away
     waitOrStop([] { return false; });
 }
 

@@ -1,5 +1,4 @@
 #include "common/DarkTheme.h"
-#include "panel/ClickableLabel.h"
 #include "panel/LogInPage.h"
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/ParentWidget.h"
@@ -9,7 +8,6 @@
 #include "panel/TableItem.h"
 #include "tests/panel/PanelFixture.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,8 +17,6 @@
 #include <QTranslator>
 #include <QTreeWidget>
 #include <QtTest>
-
-Q_DECLARE_METATYPE(const QMetaObject*)
 
 namespace
 {
@@ -80,12 +76,9 @@ private slots:
     void sections_data();
     void sections();
     void searchButtonStandsOverItsLine();
-    void pageButtonIds();
     void tables();
     void resultsPageHasNoSheet();
     void translatedTexts();
-    void interfaces_data();
-    void interfaces();
 
 private:
     void compareTexts(QWidget* page, std::initializer_list<Text> texts);
@@ -201,18 +194,6 @@ void FormsTest::searchButtonStandsOverItsLine()
     }
 }
 
-void FormsTest::pageButtonIds()
-{
-    auto* page = make<PartHarbor_2D>();
-    const auto idOf = [page](const char* name) {
-        auto* button = page->findChild<QPushButton*>(name);
-        return button->group()->id(button);
-    };
-    QCOMPARE(idOf("prev_pushButton"), 7);
-    QCOMPARE(idOf("pushButton7"), 7); // the same
-    QCOMPARE(idOf("next_pushButton"), 0);
-}
-
 void FormsTest::tables()
 {
     auto* results = make<PartHarbor_2D>()->findChild<QTableWidget*>();
@@ -289,45 +270,6 @@ void FormsTest::translatedTexts()
         texts.append(label->text());
     QCOMPARE(texts, QStringList({"QObject|Configure", "QObject|Preview", "QObject|Search",
                                  "View : ", "Configuration : ", "", ""}));
-}
-
-void FormsTest::interfaces_data()
-{
-    QTest::addColumn<const QMetaObject*>("type");
-    QTest::addColumn<QStringList>("methods");
-    QTest::addRow("main panel") << &PV3DPartHarbor_2D::staticMetaObject
-                                << QStringList{"clicked()",
-                                               "SendData()",
-                                               "CategoryButtonPressed(int)",
-                                               "on_line_edit()",
-                                               "SetAccessToken(QNetworkReply*)",
-                                               "GetAPIKey(QNetworkReply*)",
-                                               "SetModelData(QNetworkReply*)"};
-    QTest::addRow("results page") << &PartHarbor_2D::staticMetaObject
-                                  << QStringList{"ModelData(QNetworkReply*)", "ReleaseTask(int)",
-                                                 "OnPushButtonClicked(int)", "OnBackButtonClick()"};
-    QTest::addRow("row") << &TableItem::staticMetaObject
-                         << QStringList{"Iamgedata(QNetworkReply*)", "PreviewDownloaded(QNetworkReply*)",
-                                        "Preview()"};
-    QTest::addRow("login page") << &LogInPage::staticMetaObject << QStringList{"OnClick()"};
-    QTest::addRow("label") << &ClickableLabel::staticMetaObject << QStringList{"clicked()", "release()"};
-    QTest::addRow("header") << &QtCategoryButton::staticMetaObject << QStringList{};
-    QTest::addRow("detail page")
-        << &PreviewUI::staticMetaObject
-        << QStringList{
-               "CategoryButtonPressed(int)",  "OnBackbuttonclicked()",      "SetModelData(QNetworkReply*)",
-               "DragAndDrop(QNetworkReply*)", "GetDownloadURL()",           "httpReadyRead()",
-               "httpDownloadFinished()",      "ConfigData(QNetworkReply*)", "ConfigParamData(QNetworkReply*)",
-               "switchcall(QString)"};
-}
-
-void FormsTest::interfaces()
-{
-    QFETCH(const QMetaObject*, type);
-    QStringList methods;
-    for (int i = type->methodOffset(); i < type->methodCount(); ++i)
-        methods.append(QString::fromLatin1(type->method(i).methodSignature()));
-    QTEST(methods, "methods");
 }
 
 QTEST_MAIN(FormsTest)

@@ -33,7 +33,6 @@ private slots:
     void roundTripKeepsItsPages();
     void pageNumbers_data();
     void pageNumbers();
-    void dotsCannotBeClicked();
     void pressingElsewhereDoesNotCount();
     void pageIsKeptAcrossSearches();
     void searchNeedsAKey();
@@ -151,6 +150,8 @@ void NavigationTest::pageNumbers_data()
                                << QStringList{"1", "5", "6", "7"} << jumpedTo("6", "7");
     QTest::addRow("5 > 2 >") << QStringList{"pushButton5", next, "pushButton2", next}
                              << QStringList{"1", "5", "6", "2", "3"} << jumpedTo("3", "4");
+    QTest::addRow("dots") << QStringList{prev, "pushButton6", "pushButton3", "pushButton1"}
+                          << QStringList{"1", "0", "1"} << jumpedTo("0", "1");
 }
 
 void NavigationTest::pageNumbers()
@@ -166,19 +167,8 @@ void NavigationTest::pageNumbers()
     asked.sort();
     QCOMPARE(numbers, asked);
     QTEST(bar(), "bar");
-}
-
-void NavigationTest::dotsCannotBeClicked()
-{
-    m_panel->showResults();
-    m_panel->click("prev_pushButton"); // makes the third button dots too
-    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
-    m_panel->click("pushButton6");
-    m_panel->click("pushButton3");
-    m_panel->click("pushButton1");
-    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 3);
-    QCOMPARE(m_panel->sent(SearchOperationName, "pageNumber"), (QStringList{"1", "0", "1"}));
-    QCOMPARE(LastPageButton, m_panel->shown<QPushButton>("pushButton1"));
+    if (!clicks.isEmpty())
+        QCOMPARE(LastPageButton, m_panel->shown<QPushButton>(clicks.last()));
 }
 
 void NavigationTest::pressingElsewhereDoesNotCount()
