@@ -17,7 +17,7 @@ pvResult HostApplicationOptions::GetApplicationOptionInt16(pvApplicationOptionIn
     answer.giveValue(result, static_cast<pvGetApplicationOptionResult_e>(known ? 0 : 1));
     if (!known)
         return answer.result(false);
-    return answer.giveLow32(value, m_settings->darkTheme ? m_settings->darkThemeValue : 0);
+    return answer.giveLow32(value, m_settings->darkTheme ? m_settings->darkThemeValue : 0U);
 }
 
 } // namespace devhost

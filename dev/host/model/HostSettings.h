@@ -9,7 +9,7 @@ namespace devhost
 struct HostSettings {
     int language = 2; ///< pvLanguage_e value; 2 is English.
     bool darkTheme = false;
-    long darkThemeValue = 1; ///< how the host's option tells a dark theme; 0 is the light one
+    quint32 darkThemeValue = 1; ///< how the host's option tells a dark theme; 0 is the light one
     bool webHelp = false;
     QString webLink = "https://help.plotvane.example/"; ///< Base address of the web help.
     QString helpFile = "Help/Plotvane.chm";             ///< Path of the compiled help file.
