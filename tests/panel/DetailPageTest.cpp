@@ -31,7 +31,7 @@ private slots:
 
     void configurations_data();
     void configurations();
-    void lateConfigurationCounts();
+    void aLeftPageAsksForNothingMore();
     void parametersGetTheirTypes();
     void everyViewHasItsWireValue();
     void viewIsResetByEachPage();
@@ -94,17 +94,19 @@ void DetailPageTest::configurations()
     QTRY_COMPARE(m_panel->boxTexts(), QStringList("Detailed View is not supported."));
 }
 
-void DetailPageTest::lateConfigurationCounts()
+void DetailPageTest::aLeftPageAsksForNothingMore()
 {
     m_panel->service().setReply(ConfigInfoOperationName, configurationsReply({"Late"}).held());
     m_panel->showResults();
     m_panel->clickThumbnail(2);
-    const QLabel* label = configuration();
+    const QPointer<const QLabel> label = configuration();
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
     QCOMPARE(label->text(), QString());
-    m_panel->click("pushButton"); // page left
+    m_panel->click("pushButton");
+    QTRY_VERIFY(label.isNull()); // the sections have gone
     m_panel->service().releaseAll();
-    QTRY_COMPARE(label->text(), QString("Late"));
+    QTRY_COMPARE(m_panel->service().openConnections(), 0);
+    QVERIFY(m_panel->service().requests(ConfigParamsOperationName).isEmpty());
 }
 
 void DetailPageTest::parametersGetTheirTypes()

@@ -130,9 +130,11 @@ void PicturesTest::thumbnails_data()
     QTest::addRow("bitmap from its top") << topDownBitmap() << PictureSize;
     QTest::addRow("texts are not read")
         << picture("PNG", PictureSize, QString(10'000'000, 'x')) << PictureSize;
-    QTest::addRow("as large as may be") << picture("PNG", {1024, 1024}) << QSize(1024, 1024);
-    QTest::addRow("reduced") << picture("PNG", {4000, 4000}) << QSize(1024, 1024);
-    QTest::addRow("line") << picture("PNG", {100000, 1}) << QSize(1024, 1);
+    QTest::addRow("as large as it is shown") << picture("PNG", {80, 130}) << QSize(80, 130);
+    QTest::addRow("wide") << picture("PNG", {256, 128}) << QSize(80, 40);
+    QTest::addRow("high") << picture("PNG", {100, 1300}) << QSize(10, 130);
+    QTest::addRow("reduced") << picture("PNG", {4000, 4000}) << QSize(80, 80);
+    QTest::addRow("line") << picture("PNG", {100000, 1}) << QSize(80, 1);
 }
 
 void PicturesTest::thumbnails()

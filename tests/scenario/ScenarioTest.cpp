@@ -2,6 +2,8 @@
 #include "dev/dwg/Writer.h"
 #include "tests/scenario/ScenarioFixture.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -29,10 +31,15 @@ QImage shownPicture(const QIcon& icon)
     return icon.pixmap(icon.availableSizes().value(0)).toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
+/// @return the catalog's picture, reduced as a row reduces it.
 QImage pictureOf(const Part& part, const QSize& size)
 {
-    const std::string png = devcatalog::drawThumbnail(part, size.width(), size.height());
-    return QImage::fromData(QByteArray::fromStdString(png)).convertToFormat(QImage::Format_ARGB32);
+    constexpr int servedSize = 256;
+    QByteArray png = QByteArray::fromStdString(devcatalog::drawThumbnail(part, servedSize, servedSize));
+    QBuffer buffer(&png);
+    QImageReader reader(&buffer);
+    reader.setScaledSize(size);
+    return QPixmap::fromImage(reader.read()).toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
 } // namespace
