@@ -9,6 +9,7 @@ namespace
 // Each size is a row: its designation, the values of the dimensions in their order, those of the variant.
 // clang-format off
 
+// ISO 4014; fully threaded ones ISO 4017.
 constexpr Dimension HexBoltDimensions[] = {
     {"Thread diameter", "mm"}, {"Pitch", "mm"}, {"Width across flats", "mm"}, {"Head height", "mm"},
 };
@@ -23,6 +24,7 @@ constexpr Size HexBoltSizes[] = {
     {"M24", "24 3 36 15", "60 90 120"},
 };
 
+// ASME B18.2.1, rounded to hundredths of a millimetre.
 constexpr Size InchHexBoltSizes[] = {
     {"1/4\"-20", "6.35 1.27 11.11 4.14", "19.05 25.4 38.1"},
     {"5/16\"-18", "7.94 1.411 12.7 5.36", "25.4"},
@@ -30,21 +32,23 @@ constexpr Size InchHexBoltSizes[] = {
     {"1/2\"-13", "12.7 1.954 19.05 8.2", "38.1 50.8 63.5"},
 };
 
+// ISO 4762.
 constexpr Dimension SocketScrewDimensions[] = {
     {"Thread diameter", "mm"}, {"Pitch", "mm"}, {"Head diameter", "mm"}, {"Head height", "mm"},
-    {"Socket size", "mm"},
+    {"Socket size", "mm"}, {"Socket depth", "mm"},
 };
 constexpr Size SocketScrewSizes[] = {
-    {"M3", "3 0.5 5.5 3 2.5", "8 10 16"},
-    {"M4", "4 0.7 7 4 3", "10 16 20"},
-    {"M5", "5 0.8 8.5 5 4", "12 16 20 25"},
-    {"M6", "6 1 10 6 5", "16 20 25 30"},
-    {"M8", "8 1.25 13 8 6", "20 25 30 40"},
-    {"M10", "10 1.5 16 10 8", "25 30 40 50"},
-    {"M12", "12 1.75 18 12 10", "30 40 50 60"},
-    {"M16", "16 2 24 16 14", "40 50 60 80"},
+    {"M3", "3 0.5 5.5 3 2.5 1.3", "8 10 16"},
+    {"M4", "4 0.7 7 4 3 2", "10 16 20"},
+    {"M5", "5 0.8 8.5 5 4 2.5", "12 16 20 25"},
+    {"M6", "6 1 10 6 5 3", "16 20 25 30"},
+    {"M8", "8 1.25 13 8 6 4", "20 25 30 40"},
+    {"M10", "10 1.5 16 10 8 5", "25 30 40 50"},
+    {"M12", "12 1.75 18 12 10 6", "30 40 50 60"},
+    {"M16", "16 2 24 16 14 8", "40 50 60 80"},
 };
 
+// Thin nuts ISO 4035, others ISO 4032.
 constexpr Dimension HexNutDimensions[] = {
     {"Thread diameter", "mm"}, {"Pitch", "mm"}, {"Width across flats", "mm"},
 };
@@ -59,6 +63,7 @@ constexpr Size HexNutSizes[] = {
     {"M24", "24 3 36", "12 21.5"},
 };
 
+// ISO 7089 in the greater thickness; the thin ones are the makers' own.
 constexpr Dimension WasherDimensions[] = {
     {"Inner diameter", "mm"}, {"Outer diameter", "mm"},
 };
@@ -73,6 +78,7 @@ constexpr Size WasherSizes[] = {
     {"M24", "25 44", "2 4"},
 };
 
+// ISO 8734.
 constexpr Dimension DowelPinDimensions[] = {
     {"Diameter", "mm"},
 };
@@ -96,6 +102,7 @@ constexpr Size StarKnobSizes[] = {
     {"D63-M12", "63 40 26 7 12 1.75", "40"},
 };
 
+// ISO 15.
 constexpr Dimension BallBearingDimensions[] = {
     {"Bore", "mm"}, {"Outer diameter", "mm"}, {"Width", "mm"},
 };
@@ -113,6 +120,7 @@ constexpr Size BallBearingSizes[] = {
     {"6210", "50 90 20", "open 2Z"},
 };
 
+// ISO 3228.
 constexpr Dimension PillowBlockDimensions[] = {
     {"Bore", "mm"}, {"Length", "mm"}, {"Centre height", "mm"}, {"Depth", "mm"}, {"Housing radius", "mm"},
     {"Bolt spacing", "mm"},
@@ -140,18 +148,20 @@ constexpr Size SpurGearSizes[] = {
     {"M3 Z36", "3 36 30 60", "20 25 30"},
 };
 
+// ISO 4183.
 constexpr Dimension VBeltPulleyDimensions[] = {
     {"Pitch diameter", "mm"}, {"Grooves", ""}, {"Groove spacing", "mm"}, {"Edge distance", "mm"},
     {"Groove depth", "mm"}, {"Groove rise", "mm"}, {"Belt width", "mm"},
+    {"Groove angle", "°"},
 };
 constexpr Size VBeltPulleySizes[] = {
-    {"SPZ 63-1", "63 1 12 8 11 2 8.5", "12 16"},
-    {"SPZ 80-2", "80 2 12 8 11 2 8.5", "16 20"},
-    {"SPZ 100-2", "100 2 12 8 11 2 8.5", "16 20 25"},
-    {"SPA 100-1", "100 1 15 10 13.8 2.8 11", "18 22"},
-    {"SPA 125-2", "125 2 15 10 13.8 2.8 11", "20 25 30"},
-    {"SPA 140-3", "140 3 15 10 13.8 2.8 11", "25 30 35"},
-    {"SPA 180-3", "180 3 15 10 13.8 2.8 11", "30 40"},
+    {"SPZ 63-1", "63 1 12 8 11 2 8.5 34", "12 16"},
+    {"SPZ 80-2", "80 2 12 8 11 2 8.5 34", "16 20"},
+    {"SPZ 100-2", "100 2 12 8 11 2 8.5 38", "16 20 25"},
+    {"SPA 100-1", "100 1 15 10 13.8 2.8 11 34", "18 22"},
+    {"SPA 125-2", "125 2 15 10 13.8 2.8 11 38", "20 25 30"},
+    {"SPA 140-3", "140 3 15 10 13.8 2.8 11 38", "25 30 35"},
+    {"SPA 180-3", "180 3 15 10 13.8 2.8 11 38", "30 40"},
 };
 
 constexpr Dimension CompressionSpringDimensions[] = {
@@ -194,6 +204,7 @@ constexpr Size AluminiumProfileSizes[] = {
     {"60x60", "60 10 5 16 25 14", "120 180 240"},
 };
 
+// EN 1092-1, type 11, PN 16.
 constexpr Dimension PipeFlangeDimensions[] = {
     {"Outer diameter", "mm"}, {"Bore", "mm"}, {"Bolt circle", "mm"}, {"Bolt hole", "mm"}, {"Bolts", ""},
     {"Neck diameter", "mm"}, {"Neck height", "mm"},
@@ -209,14 +220,14 @@ constexpr Size PipeFlangeSizes[] = {
 };
 
 constexpr Dimension BridgeHandleDimensions[] = {
-    {"Hole spacing", "mm"}, {"Grip diameter", "mm"}, {"Thread diameter", "mm"},
+    {"Hole spacing", "mm"}, {"Grip diameter", "mm"}, {"Thread diameter", "mm"}, {"Pitch", "mm"},
 };
 constexpr Size BridgeHandleSizes[] = {
-    {"64", "64 8 4", "28 35"},
-    {"96", "96 10 5", "35 40"},
-    {"128", "128 12 6", "40 50"},
-    {"160", "160 14 6", "45 55"},
-    {"200", "200 16 8", "55 65"},
+    {"64", "64 8 4 0.7", "28 35"},
+    {"96", "96 10 5 0.8", "35 40"},
+    {"128", "128 12 6 1", "40 50"},
+    {"160", "160 14 6 1", "45 55"},
+    {"200", "200 16 8 1.25", "55 65"},
 };
 
 constexpr Dimension EnclosureDimensions[] = {
@@ -230,6 +241,7 @@ constexpr Size EnclosureSizes[] = {
     {"240x160", "240 160 4 25.5", "90 120"},
 };
 
+// ISO 15552.
 constexpr Dimension PneumaticCylinderDimensions[] = {
     {"Bore", "mm"}, {"Cover size", "mm"}, {"Cover length", "mm"}, {"Body length", "mm"},
     {"Screw spacing", "mm"}, {"Screw diameter", "mm"}, {"Port diameter", "mm"}, {"Rod diameter", "mm"},
@@ -255,6 +267,7 @@ constexpr Size ProximitySensorSizes[] = {
     {"M30", "30 1.5 60 36 5", "10 15"},
 };
 
+// Frame sizes of NEMA ICS 16 (NEMA 11 to NEMA 34).
 constexpr Dimension StepperMotorDimensions[] = {
     {"Frame size", "mm"}, {"Shaft diameter", "mm"}, {"Shaft length", "mm"}, {"Pilot diameter", "mm"},
     {"Pilot height", "mm"}, {"Hole spacing", "mm"}, {"Hole diameter", "mm"},
