@@ -30,8 +30,10 @@ install_packages() {
 
 # What building needs, and what running needs besides: Qt's SVG plugin, without which every SVG icon is
 # blank, and fonts; Japanese, Chinese and Korean are among the languages to choose from.
+# The modelling kernel's viewer is not used, but Debian puts a header of its foundation into the viewer's package.
 BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
-    libssl-dev libpugixml-dev libgdal-dev libqt5svg5-dev"
+    libssl-dev libpugixml-dev libgdal-dev libqt5svg5-dev
+    libocct-foundation-dev libocct-modeling-data-dev libocct-modeling-algorithms-dev libocct-visualization-dev"
 RUN_PACKAGES="$BUILD_PACKAGES libqt5svg5 fonts-dejavu-core fonts-noto-cjk"
 # What only the tests need: a display of their own, and npm for the second reader of drawings. Where another Node.js
 # than Debian's has brought npm, Debian's would not install beside it.

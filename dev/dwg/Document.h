@@ -22,9 +22,6 @@ struct Date {
 /// The date in every file, 1 January 2002: a clock would make equal drawings differ.
 constexpr Date FileDate = {2452276, 0};
 
-/// Units of a drawing (INSUNITS): centimetres.
-constexpr int InsertionUnits = 5;
-
 struct Layer {
     Handle handle = 0;
     /// In the file's code page.
@@ -40,9 +37,12 @@ struct Document {
     /// In the file's code page.
     std::string title;
     /// One for each LineKind, in that order.
-    std::array<Layer, 3> layers;
+    std::array<Layer, 4> layers;
     std::vector<Entity> entities;
     std::optional<Extents> extents;
+    /// The format's number of the drawing's unit (INSUNITS).
+    int insertionUnits = 0;
+    double linetypeScale = 1.0;
     /// The entities have consecutive handles from here.
     Handle firstEntity = 0;
 

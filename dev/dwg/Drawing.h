@@ -7,7 +7,7 @@
 namespace dwg
 {
 
-/// A point or direction in the drawing plane, in centimetres.
+/// A point or direction in the drawing plane, in the drawing's unit.
 struct Point2 {
     double x = 0.0;
     double y = 0.0;
@@ -38,17 +38,23 @@ struct Polyline {
 using Shape = std::variant<LineSegment, Circle, Polyline>;
 
 /// What a line of the drawing stands for; each kind has a layer and a linetype of its own.
-enum class LineKind { Outline, Hidden, Centre };
+enum class LineKind { Outline, Hidden, Centre, Thread };
 
 struct Entity {
     LineKind kind = LineKind::Outline;
     Shape shape;
 };
 
-/// A 2D drawing in centimetres, before it becomes a file.
+enum class Unit { Millimetre, Centimetre };
+
+/// A 2D drawing, before it becomes a file.
 struct Drawing {
     std::string title;
     std::vector<Entity> entities;
+    Unit unit = Unit::Centimetre;
+    /// Factor of the dashes of all lines. Those of hidden edges are 0.25 units long, those of centre lines
+    /// 0.75.
+    double linetypeScale = 1.0;
 };
 
 } // namespace dwg

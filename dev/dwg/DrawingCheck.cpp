@@ -13,7 +13,7 @@ namespace dwg
 namespace
 {
 
-/// In centimetres: 10000 km, beyond any part, far within what doubles and CAD programs hold exactly enough.
+/// In drawing units: beyond any part, far within what doubles and CAD programs hold exactly enough.
 constexpr double LargestCoordinate = 1.0e9;
 /// An arc with this bulge is a circle but for a four-millionth of a turn.
 constexpr double LargestBulge = 1.0e6;
@@ -85,7 +85,7 @@ void checkReach(const Drawing& drawing)
         return;
     for (const double edge : {extents->min.x, extents->min.y, extents->max.x, extents->max.y})
         if (std::abs(edge) > LargestCoordinate)
-            throw std::invalid_argument("The drawing reaches beyond 1e9 cm from its origin");
+            throw std::invalid_argument("The drawing reaches beyond 1e9 units from its origin");
 }
 
 } // namespace
@@ -97,6 +97,8 @@ void checkDrawing(const Drawing& drawing)
         points += std::visit(ShapeCheck(index), drawing.entities[index].shape);
     if (points > MostPoints)
         throw std::invalid_argument("The drawing has more than a million points");
+    if (!(drawing.linetypeScale > 0.0) || !std::isfinite(drawing.linetypeScale))
+        throw std::invalid_argument("The drawing's linetype scale is not a positive number");
     checkReach(drawing);
 }
 

@@ -90,6 +90,7 @@ EntityPlace placeOf(std::size_t index, const Document& document)
     EntityPlace place;
     place.handle = document.firstEntity + static_cast<Handle>(index);
     place.layer = document.layerOf(document.entities[index]).handle;
+    place.linetypeScale = document.linetypeScale;
     const bool first = place.handle == document.firstEntity;
     const bool last = place.handle == document.lastEntity();
     place.betweenNeighbours = !first && !last;
@@ -111,10 +112,10 @@ Object beginEntity(ObjectType type, const EntityPlace& place)
     data.bitLong(0); // reactors
     data.bit(place.betweenNeighbours);
     data.colour(byLayer);
-    data.bitDouble(1.0); // linetype scale
-    data.bitPair(0);     // linetype by layer
-    data.bitPair(0);     // plot style by layer
-    data.bitShort(0);    // visible
+    data.bitDouble(place.linetypeScale);
+    data.bitPair(0);  // linetype by layer
+    data.bitPair(0);  // plot style by layer
+    data.bitShort(0); // visible
     data.rawChar(lineweightByLayer);
 
     object.refer(hardOwner(handles::None));

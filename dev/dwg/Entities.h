@@ -15,6 +15,7 @@ struct EntityPlace {
     Handle handle = 0;
     Handle layer = 0;
     Space space = Space::Model;
+    double linetypeScale = 1.0;
     /// True when the entities before and after have the handles before and after: the file then leaves them
     /// out.
     bool betweenNeighbours = false;

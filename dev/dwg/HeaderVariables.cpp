@@ -180,7 +180,7 @@ void writeIdentity(BitWriter& data, const Document& document, std::string_view c
     constexpr std::uint32_t flags =
         0x2A1D; // among them: lineweight by layer, extended names, plot style by colour
     data.bitLong(flags);
-    data.bitShort(InsertionUnits);
+    data.bitShort(document.insertionUnits);
     data.bitShort(0); // CEPSNTYPE: plot style by layer
     data.text(makeDwgGuid("fingerprint " + document.title));
     data.text(makeDwgGuid(content));

@@ -83,7 +83,7 @@ struct Linetype {
     Handle handle;
     std::string_view name;
     std::string_view description;
-    /// Lengths in centimetres; a negative one is a gap.
+    /// Lengths in drawing units at a linetype scale of one; a negative one is a gap.
     std::vector<double> dashes;
 };
 

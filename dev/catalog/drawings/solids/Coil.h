@@ -1,26 +1,30 @@
 #pragma once
 
-#include "dev/catalog/drawings/solids/Sweep.h"
+#include <gp_Dir.hxx>
+#include <gp_Pnt.hxx>
+
+#include <vector>
 
 namespace devcatalog
 {
 
-/// A coil spring around a frame's z axis, from height 0 up; its first and last turns are closed.
-class Coil final : public Body
-{
-public:
-    /// @param meanDiameter of the wire's centre line.
-    Coil(const Frame& frame, double meanDiameter, double wireDiameter, double turns, double height);
+/// A coil of wire around the z axis, its first and last turns closed. It is no shape of the kernel, which
+/// takes seconds to find out what the turns hide of one another.
+struct Coil {
+    std::vector<gp_Pnt> centreLine; ///< A hundred points and more to a turn.
+    double meanRadius = 0.0;
+    double wireRadius = 0.0;
 
-    void appendCurves(std::vector<Curve>& curves, const Vector3& toward) const override;
-    void appendFaces(std::vector<Face>& faces, const Vector3& toward) const override;
-
-private:
-    Frame m_frame;
-    double m_meanRadius;
-    double m_wireRadius;
-    double m_height;
-    Sweep m_wire;
+    double height() const { return centreLine.back().Z() + wireRadius; }
+    /// @return the wire's direction at a point of the centre line.
+    gp_Dir direction(std::size_t index) const;
 };
+
+/// @return a coil from height 0 up.
+Coil makeCoil(double meanRadius, double wireRadius, double turns, double height);
+
+/// @return what can be seen of the wire's outlines by a parallel projection.
+/// @param toward from the coil to the viewer.
+std::vector<std::vector<gp_Pnt>> visibleOutlines(const Coil& coil, const gp_Dir& toward);
 
 } // namespace devcatalog

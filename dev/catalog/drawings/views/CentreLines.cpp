@@ -1,50 +1,55 @@
 #include "dev/catalog/drawings/views/CentreLines.h"
 
+#include "dev/catalog/drawings/solids/Shapes.h"
+
 namespace devcatalog
 {
 
 namespace
 {
 
-void addLine(LineWork& lineWork, const Vector3& from, const Vector3& to, double overhang)
+constexpr double Overhang = 2.5;
+
+void addLine(LineWork& lineWork, const gp_Pnt& from, const gp_Pnt& to)
 {
-    const Vector3 beyond = overhang * normalized(to - from);
-    lineWork.add(dwg::LineKind::Centre, LineCurve{from - beyond, to + beyond});
+    const gp_Vec beyond = Overhang * gp_Vec(from, to).Normalized();
+    lineWork.addLine(dwg::LineKind::Centre, from.Translated(-beyond), to.Translated(beyond));
 }
 
-void addAxis(LineWork& lineWork, const Axis& axis, const Camera& camera, double overhang)
+void addAxis(LineWork& lineWork, const Axis& axis, const Camera& camera)
 {
-    const Vector3 direction = axis.to - axis.from;
-    if (length(cross(direction, camera.toward)) > 1e-9) {
-        addLine(lineWork, axis.from, axis.to, overhang);
+    if (!camera.seesEndOn(gp_Vec(axis.from, axis.to))) {
+        addLine(lineWork, axis.from, axis.to);
         return;
     }
-    for (const Vector3& arm : {axis.radius * camera.right, axis.radius * camera.up})
-        addLine(lineWork, axis.from - arm, axis.from + arm, overhang);
+    for (const gp_Dir& direction : {camera.right, camera.up}) {
+        const gp_Vec arm = axis.radius * gp_Vec(direction);
+        addLine(lineWork, axis.from.Translated(-arm), axis.from.Translated(arm));
+    }
 }
 
-void addPitchCircle(LineWork& lineWork, const PitchCircle& pitch, const Camera& camera, double overhang)
+void addPitchCircle(LineWork& lineWork, const PitchCircle& pitch, const Camera& camera)
 {
-    const double facing = std::abs(dot(pitch.frame.z, camera.toward));
-    if (facing > 1 - 1e-9) {
-        lineWork.add(dwg::LineKind::Centre, circleAround(pitch.frame, pitch.radius, 0));
-    } else if (facing < 1e-9 && pitch.length > 0) {
-        const Vector3 along = pitch.length * pitch.frame.z;
-        const Vector3 across = pitch.radius * cross(pitch.frame.z, camera.toward);
-        for (const Vector3& start : {pitch.frame.origin + across, pitch.frame.origin - across})
-            addLine(lineWork, start, start + along, overhang);
+    const gp_Dir axis = pitch.frame.Direction();
+    if (camera.seesEndOn(axis)) {
+        lineWork.addCircle(dwg::LineKind::Centre, gp_Circ(pitch.frame, pitch.radius), 0, 2 * Pi);
+    } else if (pitch.length > 0) {
+        const gp_Vec across = pitch.radius * gp_Vec(axis.Crossed(camera.toward));
+        for (const gp_Vec& side : {across, -across}) {
+            const gp_Pnt start = pitch.frame.Location().Translated(side);
+            addLine(lineWork, start, start.Translated(pitch.length * gp_Vec(axis)));
+        }
     }
 }
 
 } // namespace
 
-void addCentreLines(LineWork& lineWork, const Solid& solid, const Camera& camera, double size)
+void addCentreLines(LineWork& lineWork, const Solid& solid, const Camera& camera)
 {
-    const double least = 0.02 * size;
     for (const Axis& axis : solid.axes)
-        addAxis(lineWork, axis, camera, std::max(least, 0.2 * axis.radius));
+        addAxis(lineWork, axis, camera);
     for (const PitchCircle& pitch : solid.pitchCircles)
-        addPitchCircle(lineWork, pitch, camera, least);
+        addPitchCircle(lineWork, pitch, camera);
 }
 
 } // namespace devcatalog

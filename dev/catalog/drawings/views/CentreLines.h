@@ -6,8 +6,7 @@
 namespace devcatalog
 {
 
-/// Draws the axes and pitch circles of a solid as a camera sees them.
-/// @param size the part's largest extent; it decides how far the lines reach beyond what they belong to.
-void addCentreLines(LineWork& lineWork, const Solid& solid, const Camera& camera, double size);
+/// Adds the centre lines of axes and of circles around them, which reach 2.5 mm beyond the edges.
+void addCentreLines(LineWork& lineWork, const Solid& solid, const Camera& camera);
 
 } // namespace devcatalog

@@ -1,11 +1,11 @@
 #include "dev/catalog/drawings/views/HiddenLines.h"
 
-#include "dev/catalog/drawings/views/CurveSplitter.h"
-#include "dev/catalog/drawings/views/Occluder.h"
-
-#include <algorithm>
-#include <array>
-#include <cmath>
+#include <BRepLib.hxx>
+#include <HLRAlgo_Projector.hxx>
+#include <HLRBRep_Algo.hxx>
+#include <HLRBRep_HLRToShape.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopoDS.hxx>
 
 namespace devcatalog
 {
@@ -13,202 +13,82 @@ namespace devcatalog
 namespace
 {
 
-/// Where between two splits a curve is probed: off the middle, where symmetric parts have things in line.
-constexpr std::array<double, 3> probes = {0.4871, 0.2113, 0.7837};
+/// Angle in radians up to which surfaces that meet share a tangent.
+constexpr double SharedTangent = 1e-4;
 
-struct Candidate {
-    Curve curve;
-    bool hiddenEdges;
-};
-
-bool seenEdgeOn(const ArcCurve& arc, const Camera& camera)
+void appendEdges(std::vector<Stroke>& strokes, const TopoDS_Shape& edges, bool hidden)
 {
-    const Vector3 normal = cross(arc.u, arc.v);
-    return std::abs(dot(normal, camera.toward)) < 1e-9 * length(normal);
+    if (edges.IsNull())
+        return;
+    for (TopExp_Explorer each(edges, TopAbs_EDGE); each.More(); each.Next()) {
+        const BRepAdaptor_Curve curve(TopoDS::Edge(each.Current()));
+        strokes.push_back({curve, curve.FirstParameter(), curve.LastParameter(), hidden});
+    }
 }
 
-/// Splits an arc that is seen edge on where it turns back on itself, so that each part looks like a line.
-std::vector<Curve> straightParts(const ArcCurve& arc, const Camera& camera)
+/// Where a bar bends away from the viewer its whole section is an outline, which the kernel takes for
+/// visible.
+std::vector<Stroke> withoutCovered(const std::vector<Stroke>& outlines, Sight& sight)
 {
-    const Vector3 across = normalized(cross(camera.toward, cross(arc.u, arc.v)));
-    const double turn = std::atan2(dot(arc.v, across), dot(arc.u, across));
-    const double low = std::min(arc.from, arc.to);
-    const double high = std::max(arc.from, arc.to);
-    std::vector<double> angles{low};
-    const int first = static_cast<int>(std::ceil((low - turn) / pi + 1e-9));
-    for (int i = first; turn + i * pi < high - 1e-9; ++i)
-        angles.push_back(turn + i * pi);
-    angles.push_back(high);
-    std::vector<Curve> parts;
-    for (std::size_t i = 0; i + 1 < angles.size(); ++i)
-        parts.emplace_back(ArcCurve{arc.centre, arc.u, arc.v, angles[i], angles[i + 1]});
-    return parts;
-}
-
-std::vector<Candidate> candidates(const Solid& solid, const Camera& camera)
-{
-    std::vector<Candidate> result;
-    for (const Member& member : solid.members) {
-        std::vector<Curve> curves;
-        member.body->appendCurves(curves, camera.toward);
-        for (const Curve& curve : curves) {
-            const auto* line = std::get_if<LineCurve>(&curve);
-            const auto* arc = std::get_if<ArcCurve>(&curve);
-            if (line && length(cross(line->to - line->from, camera.toward)) < 1e-9)
-                continue;
-            if (arc && seenEdgeOn(*arc, camera))
-                for (const Curve& part : straightParts(*arc, camera))
-                    result.push_back({part, member.hiddenEdges});
-            else
-                result.push_back({curve, member.hiddenEdges});
-        }
+    constexpr int steps = 6;
+    constexpr double beyondOwnSurface = 0.05;
+    std::vector<Stroke> result;
+    for (const Stroke& outline : outlines) {
+        const auto place = [&outline](double at) { return outline.curve.Value(at); };
+        for (const Sight::Piece& piece :
+             sight.split(outline.from, outline.to, place, steps, beyondOwnSurface))
+            if (piece.visible)
+                result.push_back({outline.curve, piece.from, piece.to, false});
     }
     return result;
 }
 
-/// A part of a candidate between two splits.
-struct Piece {
-    double from = 0.0;
-    double to = 0.0;
-    bool hidden = false;
-    bool repeated = false; ///< Looks the same as another piece, which is drawn instead.
-    dwg::Point2 start;
-    dwg::Point2 middle;
-    dwg::Point2 end;
-};
-
-/// Whether a curve is hidden between two splits. It is so all along or nowhere, but facets stand in for round
-/// surfaces, so that two probes of three decide.
-bool isHidden(const Curve& curve, double from, double to, const Occluder& occluder)
+/// What can be seen, or cannot, of one of the algorithm's shapes.
+std::vector<Stroke> strokesOf(HLRBRep_HLRToShape& result, const TopoDS_Shape& shape, bool hidden,
+                              Sight& sight)
 {
-    const auto count = std::count_if(probes.begin(), probes.end(), [&](double probe) {
-        return occluder.hides(pointAt(curve, from + probe * (to - from)));
-    });
-    return count > 1;
-}
-
-std::vector<Piece> piecesOf(const Candidate& candidate, const std::vector<double>& splits,
-                            const Camera& camera, const Occluder& occluder)
-{
-    const auto seen = [&candidate, &camera](double t) { return camera.project(pointAt(candidate.curve, t)); };
-    std::vector<Piece> pieces;
-    for (std::size_t i = 0; i + 1 < splits.size(); ++i) {
-        Piece piece;
-        piece.from = splits[i];
-        piece.to = splits[i + 1];
-        if (piece.to - piece.from < 1e-6)
-            continue;
-        piece.hidden = isHidden(candidate.curve, piece.from, piece.to, occluder);
-        piece.start = seen(piece.from);
-        piece.middle = seen((piece.from + piece.to) / 2);
-        piece.end = seen(piece.to);
-        pieces.push_back(piece);
-    }
-    return pieces;
-}
-
-double distance(const dwg::Point2& a, const dwg::Point2& b)
-{
-    return std::hypot(b.x - a.x, b.y - a.y);
-}
-
-/// How far apart the middles of two pieces with the same ends can be when they are the same curve: others
-/// would cross in between, or be well apart.
-double reachOf(const Piece& piece, double tolerance)
-{
-    return tolerance + 0.02 * distance(piece.start, piece.end);
-}
-
-bool looksLike(const Piece& a, const Piece& b, double tolerance)
-{
-    if (distance(a.middle, b.middle) > reachOf(a, tolerance))
-        return false;
-    return (distance(a.start, b.start) < tolerance && distance(a.end, b.end) < tolerance) ||
-           (distance(a.start, b.end) < tolerance && distance(a.end, b.start) < tolerance);
-}
-
-/// Of curved pieces that cover one another keeps one, a visible one if there is any. Lines are left to the
-/// line work.
-void markRepeated(const std::vector<Candidate>& candidates, std::vector<std::vector<Piece>>& pieces,
-                  double tolerance)
-{
-    std::vector<Piece*> curved;
-    for (std::size_t i = 0; i < candidates.size(); ++i)
-        if (!std::holds_alternative<LineCurve>(candidates[i].curve))
-            for (Piece& piece : pieces[i])
-                curved.push_back(&piece);
-    std::stable_sort(curved.begin(), curved.end(),
-                     [](const Piece* a, const Piece* b) { return a->middle.x < b->middle.x; });
-    for (std::size_t i = 0; i < curved.size(); ++i) {
-        Piece& one = *curved[i];
-        const double last = one.middle.x + reachOf(one, tolerance);
-        for (std::size_t j = i + 1; j < curved.size() && curved[j]->middle.x <= last && !one.repeated; ++j) {
-            Piece& other = *curved[j];
-            if (!other.repeated && looksLike(one, other, tolerance))
-                (one.hidden ? one : other).repeated = true;
-        }
-    }
-}
-
-/// Joins what splitting took apart, where the pieces are all seen or all hidden.
-void appendStrokes(std::vector<Stroke>& strokes, const Candidate& candidate, const std::vector<Piece>& pieces)
-{
-    const auto joins = [](const Piece& a, const Piece& b) {
-        return a.hidden == b.hidden && !a.repeated && !b.repeated;
-    };
-    std::vector<Piece> joined;
-    for (const Piece& piece : pieces)
-        if (!joined.empty() && joins(joined.back(), piece))
-            joined.back().to = piece.to;
-        else
-            joined.push_back(piece);
-    const auto* arc = std::get_if<ArcCurve>(&candidate.curve);
-    if (arc && arc->isFullCircle() && joined.size() > 1 && joins(joined.front(), joined.back())) {
-        joined.front().from = joined.back().from - 1;
-        joined.pop_back();
-    }
-    for (const Piece& piece : joined)
-        if (!piece.repeated && (!piece.hidden || candidate.hiddenEdges))
-            strokes.push_back({portion(candidate.curve, piece.from, piece.to), piece.hidden});
-}
-
-double extentOf(const std::vector<Face>& faces)
-{
-    Vector3 lower = faces.front().loops.front().front();
-    Vector3 upper = lower;
-    for (const Face& face : faces)
-        for (const auto& loop : face.loops)
-            for (const Vector3& point : loop) {
-                lower = {std::min(lower.x, point.x), std::min(lower.y, point.y), std::min(lower.z, point.z)};
-                upper = {std::max(upper.x, point.x), std::max(upper.y, point.y), std::max(upper.z, point.z)};
-            }
-    return std::max({upper.x - lower.x, upper.y - lower.y, upper.z - lower.z});
+    std::vector<Stroke> outlines;
+    appendEdges(outlines, result.CompoundOfEdges(shape, HLRBRep_OutLine, !hidden, true), hidden);
+    std::vector<Stroke> strokes = hidden ? outlines : withoutCovered(outlines, sight);
+    appendEdges(strokes, result.CompoundOfEdges(shape, HLRBRep_Sharp, !hidden, true), hidden);
+    return strokes;
 }
 
 } // namespace
 
-StrokeSet findStrokes(const Solid& solid, const Camera& camera)
+std::vector<TopoDS_Shape> shapesSeen(const Solid& solid, const Camera& camera)
 {
-    std::vector<Face> faces;
-    for (const Member& member : solid.members)
-        member.body->appendFaces(faces, camera.toward);
-    StrokeSet result;
-    result.size = extentOf(faces);
-    const double tolerance = 1e-6 * result.size;
-    const std::vector<Candidate> found = candidates(solid, camera);
-    std::vector<Curve> curves;
-    curves.reserve(found.size());
-    for (const Candidate& candidate : found)
-        curves.push_back(candidate.curve);
-    const auto splits = CurveSplitter(curves, camera, tolerance).split();
-    const Occluder occluder(faces, camera, tolerance);
-    std::vector<std::vector<Piece>> pieces;
-    for (std::size_t i = 0; i < found.size(); ++i)
-        pieces.push_back(piecesOf(found[i], splits[i], camera, occluder));
-    markRepeated(found, pieces, 10 * tolerance);
-    for (std::size_t i = 0; i < found.size(); ++i)
-        appendStrokes(result.strokes, found[i], pieces[i]);
-    return result;
+    std::vector<TopoDS_Shape> shapes;
+    for (const Body& body : solid.bodies) {
+        const bool simplified = !body.fromTheSide.IsNull() && camera.seesFromTheSide(gp::DY());
+        shapes.push_back(simplified ? body.fromTheSide : body.shape);
+    }
+    return shapes;
+}
+
+std::vector<Stroke> findStrokes(const Solid& solid, const Camera& camera, Sight& sight, bool withHidden)
+{
+    std::vector<Stroke> strokes;
+    if (solid.bodies.empty())
+        return strokes;
+    const Handle(HLRBRep_Algo) algorithm = new HLRBRep_Algo();
+    const std::vector<TopoDS_Shape> shapes = shapesSeen(solid, camera);
+    for (const TopoDS_Shape& shape : shapes) {
+        BRepLib::EncodeRegularity(shape, SharedTangent);
+        algorithm->Add(shape);
+    }
+    algorithm->Projector(HLRAlgo_Projector(gp_Ax2(gp_Pnt(), camera.toward, camera.right)));
+    algorithm->Update();
+    algorithm->Hide();
+    HLRBRep_HLRToShape result(algorithm);
+    for (std::size_t i = 0; i < shapes.size(); ++i)
+        for (const bool hidden : {false, true}) {
+            if (hidden && !(withHidden && solid.bodies[i].hiddenEdges))
+                continue;
+            const std::vector<Stroke> found = strokesOf(result, shapes[i], hidden, sight);
+            strokes.insert(strokes.end(), found.begin(), found.end());
+        }
+    return strokes;
 }
 
 } // namespace devcatalog

@@ -1,7 +1,9 @@
 #include "dev/catalog/drawings/views/LineWork.h"
 
-#include "dev/catalog/drawings/solids/Profile.h"
 #include "dev/catalog/drawings/views/PolylineChain.h"
+
+#include <ElCLib.hxx>
+#include <GCPnts_TangentialDeflection.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -12,13 +14,21 @@ namespace devcatalog
 namespace
 {
 
-constexpr double anglePerVertex = pi / 20;
-// Of three neighbouring points on a smooth curve; in a cusp they do not lie on an arc.
-constexpr double sharpestBulge = 0.5;
+constexpr double Pi = 3.14159265358979323846;
+/// Distance in millimetres below which things coincide.
+constexpr double Tolerance = 1e-3;
+/// How far a polyline may be from its curve, in millimetres.
+constexpr double LargestDeviation = 0.005;
+constexpr double LargestTurn = 0.2; ///< From one piece of a polyline to the next, in radians.
 
 double distance(const dwg::Point2& a, const dwg::Point2& b)
 {
     return std::hypot(b.x - a.x, b.y - a.y);
+}
+
+bool coincide(const dwg::Point2& a, const dwg::Point2& b)
+{
+    return distance(a, b) < Tolerance;
 }
 
 double along(const dwg::Point2& direction, const dwg::Point2& origin, const dwg::Point2& point)
@@ -31,21 +41,43 @@ double beside(const dwg::Point2& direction, const dwg::Point2& origin, const dwg
     return direction.x * (point.y - origin.y) - direction.y * (point.x - origin.x);
 }
 
-/// Points along a curve, with one in the middle of each two vertices of the polyline that shows it.
-std::vector<dwg::Point2> pointsAlong(const Curve& curve, const Camera& camera)
+/// A free curve that may cover others.
+class PathCover
 {
-    std::vector<dwg::Point2> points;
-    if (const auto* path = std::get_if<PathCurve>(&curve)) {
-        for (const Vector3& point : path->points)
-            points.push_back(camera.project(point));
-        return points;
+public:
+    /// @param vertices must outlive the object.
+    explicit PathCover(const std::vector<dwg::PolylineVertex>& vertices) : m_vertices(vertices)
+    {
+        for (const dwg::PolylineVertex& vertex : vertices) {
+            m_min = {std::min(m_min.x, vertex.point.x), std::min(m_min.y, vertex.point.y)};
+            m_max = {std::max(m_max.x, vertex.point.x), std::max(m_max.y, vertex.point.y)};
+        }
     }
-    const double sweep = std::abs(std::get<ArcCurve>(curve).sweep());
-    const int count = 2 * std::max(1, static_cast<int>(std::ceil(sweep / anglePerVertex)));
-    for (int i = 0; i <= count; ++i)
-        points.push_back(camera.project(pointAt(curve, static_cast<double>(i) / count)));
-    return points;
-}
+
+    bool reaches(const dwg::Point2& point) const
+    {
+        // Both curves are that far from the one that they stand for.
+        constexpr double near = 3 * LargestDeviation;
+        if (point.x < m_min.x - near || point.x > m_max.x + near || point.y < m_min.y - near ||
+            point.y > m_max.y + near)
+            return false;
+        for (std::size_t i = 1; i < m_vertices.size(); ++i) {
+            const dwg::Point2& from = m_vertices[i - 1].point;
+            const dwg::Point2& to = m_vertices[i].point;
+            const double size = std::max(distance(from, to), Tolerance);
+            const dwg::Point2 direction{(to.x - from.x) / size, (to.y - from.y) / size};
+            const double at = std::clamp(along(direction, from, point), 0.0, size);
+            if (distance({from.x + at * direction.x, from.y + at * direction.y}, point) < near)
+                return true;
+        }
+        return false;
+    }
+
+private:
+    const std::vector<dwg::PolylineVertex>& m_vertices;
+    dwg::Point2 m_min{1e9, 1e9};
+    dwg::Point2 m_max{-1e9, -1e9};
+};
 
 std::size_t indexOf(dwg::LineKind kind)
 {
@@ -54,49 +86,34 @@ std::size_t indexOf(dwg::LineKind kind)
 
 } // namespace
 
-LineWork::LineWork(const Camera& camera, double tolerance) : m_camera(camera), m_tolerance(tolerance)
+void LineWork::add(dwg::LineKind kind, const Adaptor3d_Curve& curve, double from, double to)
 {
+    if (curve.GetType() == GeomAbs_Line) {
+        addLine(kind, curve.Value(from), curve.Value(to));
+    } else if (curve.GetType() == GeomAbs_Circle) {
+        addCircle(kind, curve.Circle(), from, to);
+    } else {
+        const GCPnts_TangentialDeflection samples(curve, from, to, LargestTurn, LargestDeviation);
+        std::vector<gp_Pnt> points;
+        for (int i = 1; i <= samples.NbPoints(); ++i)
+            points.push_back(samples.Value(i));
+        addPath(kind, points);
+    }
 }
 
-void LineWork::add(dwg::LineKind kind, const Curve& curve)
+void LineWork::addLine(dwg::LineKind kind, const gp_Pnt& from, const gp_Pnt& to)
 {
-    const auto* arc = std::get_if<ArcCurve>(&curve);
-    const Vector3 normal = arc ? normalized(cross(arc->u, arc->v)) : Vector3{};
-    const double facing = std::abs(dot(normal, m_camera.toward));
-    if (std::holds_alternative<LineCurve>(curve) || (arc && facing < 1e-9))
-        addLine(kind, m_camera.project(pointAt(curve, 0)), m_camera.project(pointAt(curve, 1)));
-    else if (arc && facing > 1 - 1e-9)
-        addArc(kind, *arc);
-    else
-        addPath(kind, pointsAlong(curve, m_camera));
+    addSegment(kind, m_camera.project(from), m_camera.project(to));
 }
 
-bool LineWork::coincide(const dwg::Point2& a, const dwg::Point2& b) const
-{
-    return distance(a, b) < m_tolerance;
-}
-
-bool LineWork::coincide(const Path& a, const Path& b) const
-{
-    const dwg::Point2& middle = b.vertices[b.vertices.size() / 2].point;
-    const bool sameEnds = (coincide(a.vertices.front().point, b.vertices.front().point) &&
-                           coincide(a.vertices.back().point, b.vertices.back().point)) ||
-                          (coincide(a.vertices.front().point, b.vertices.back().point) &&
-                           coincide(a.vertices.back().point, b.vertices.front().point));
-    return sameEnds && std::any_of(a.vertices.begin(), a.vertices.end(),
-                                   [this, &middle](const dwg::PolylineVertex& each) {
-                                       return coincide(each.point, middle);
-                                   });
-}
-
-void LineWork::addLine(dwg::LineKind kind, const dwg::Point2& from, const dwg::Point2& to)
+void LineWork::addSegment(dwg::LineKind kind, const dwg::Point2& from, const dwg::Point2& to)
 {
     const double size = distance(from, to);
-    if (size < m_tolerance)
+    if (size < Tolerance)
         return;
-    auto group = std::find_if(m_lines.begin(), m_lines.end(), [this, &from, &to](const LineGroup& each) {
-        return std::abs(beside(each.direction, each.origin, from)) < m_tolerance &&
-               std::abs(beside(each.direction, each.origin, to)) < m_tolerance;
+    auto group = std::find_if(m_lines.begin(), m_lines.end(), [&from, &to](const LineGroup& each) {
+        return std::abs(beside(each.direction, each.origin, from)) < Tolerance &&
+               std::abs(beside(each.direction, each.origin, to)) < Tolerance;
     });
     if (group == m_lines.end()) {
         m_lines.push_back({from, {(to.x - from.x) / size, (to.y - from.y) / size}, {}});
@@ -107,54 +124,103 @@ void LineWork::addLine(dwg::LineKind kind, const dwg::Point2& from, const dwg::P
     group->parts[indexOf(kind)].add(std::min(a, b), std::max(a, b));
 }
 
-void LineWork::addArc(dwg::LineKind kind, const ArcCurve& arc)
+/// It covers a straight line, whose ends are those of the circle's part or where the circle turns back.
+void LineWork::addCircleSeenFromTheSide(dwg::LineKind kind, const gp_Circ& circle, double from, double to)
 {
-    const dwg::Point2 centre = m_camera.project(arc.centre);
-    const double radius = length(arc.u);
-    auto group =
-        std::find_if(m_circles.begin(), m_circles.end(), [this, &centre, radius](const CircleGroup& each) {
-            return coincide(each.centre, centre) && std::abs(each.radius - radius) < m_tolerance;
-        });
-    if (group == m_circles.end()) {
-        m_circles.push_back({centre, radius, {}});
-        group = m_circles.end() - 1;
+    const gp_Dir line = circle.Axis().Direction().Crossed(m_camera.toward);
+    const double turn =
+        ElCLib::Parameter(circle, circle.Location().Translated(circle.Radius() * gp_Vec(line)));
+    double before = from;
+    for (double next = turn + std::ceil((from - turn) / Pi) * Pi; next < to; next += Pi) {
+        addLine(kind, ElCLib::Value(before, circle), ElCLib::Value(next, circle));
+        before = next;
     }
-    IntervalSet& parts = group->parts[indexOf(kind)];
-    if (arc.isFullCircle()) {
-        parts.add(0, 2 * pi);
-        return;
-    }
-    const bool counterClockwise = (dot(cross(arc.u, arc.v), m_camera.toward) > 0) == (arc.sweep() > 0);
-    const dwg::Point2 start = m_camera.project(pointAt(arc, counterClockwise ? 0 : 1));
-    double from = std::atan2(start.y - centre.y, start.x - centre.x);
-    from = from < -1e-9 ? from + 2 * pi : std::max(from, 0.0);
-    const double to = from + std::abs(arc.sweep());
-    parts.add(from, std::min(to, 2 * pi));
-    if (to > 2 * pi)
-        parts.add(0, to - 2 * pi);
+    addLine(kind, ElCLib::Value(before, circle), ElCLib::Value(to, circle));
 }
 
-void LineWork::addPath(dwg::LineKind kind, const std::vector<dwg::Point2>& points)
+bool LineWork::covers(const gp_Circ& a, const gp_Circ& b) const
+{
+    return coincide(m_camera.project(a.Location()), m_camera.project(b.Location())) &&
+           std::abs(a.Radius() - b.Radius()) < Tolerance &&
+           a.Axis().Direction().IsParallel(b.Axis().Direction(), 1e-9);
+}
+
+void LineWork::addCircle(dwg::LineKind kind, const gp_Circ& circle, double from, double to)
+{
+    if (m_camera.seesFromTheSide(circle.Axis().Direction())) {
+        addCircleSeenFromTheSide(kind, circle, from, to);
+        return;
+    }
+    auto group = std::find_if(m_circles.begin(), m_circles.end(), [this, &circle](const CircleGroup& each) {
+        return covers(each.circle, circle);
+    });
+    if (group == m_circles.end()) {
+        m_circles.push_back({circle, {}});
+        group = m_circles.end() - 1;
+    }
+    const gp_Vec shift(circle.Location(), group->circle.Location());
+    const bool sameSense = circle.Axis().Direction().Dot(group->circle.Axis().Direction()) > 0;
+    const gp_Pnt start = ElCLib::Value(sameSense ? from : to, circle).Translated(shift);
+    double first = ElCLib::Parameter(group->circle, start);
+    first = first > 2 * Pi - 1e-9 ? 0 : first;
+    const double last = first + to - from;
+    IntervalSet& parts = group->parts[indexOf(kind)];
+    parts.add(first, std::min(last, 2 * Pi));
+    if (last > 2 * Pi)
+        parts.add(0, last - 2 * Pi);
+}
+
+void LineWork::addPath(dwg::LineKind kind, const std::vector<gp_Pnt>& points)
 {
     Path path{kind, {}};
-    std::size_t i = 0;
-    for (; i + 2 < points.size(); i += 2) {
-        const double bulge = bulgeThrough(points[i], points[i + 1], points[i + 2]);
-        const bool turnsBack = std::abs(bulge) > sharpestBulge;
-        path.vertices.push_back({points[i], turnsBack ? 0 : bulge});
-        if (turnsBack)
-            path.vertices.push_back({points[i + 1], 0});
-    }
-    for (; i < points.size(); ++i)
-        path.vertices.push_back({points[i], 0});
-    if (path.vertices.size() == 2 && coincide(path.vertices.front().point, path.vertices.back().point))
+    for (const gp_Pnt& point : points)
+        path.vertices.push_back({m_camera.project(point), 0});
+    const dwg::Point2 from = path.vertices.front().point;
+    const dwg::Point2 to = path.vertices.back().point;
+    const double size = distance(from, to);
+    const dwg::Point2 direction{(to.x - from.x) / size, (to.y - from.y) / size};
+    const bool straight =
+        size > Tolerance &&
+        std::all_of(path.vertices.begin(), path.vertices.end(), [&](const dwg::PolylineVertex& vertex) {
+            return std::abs(beside(direction, from, vertex.point)) < Tolerance;
+        });
+    if (straight || path.vertices.size() < 3) {
+        addSegment(kind, from, to);
         return;
-    for (Path& other : m_paths)
-        if (other.kind != dwg::LineKind::Centre && kind != dwg::LineKind::Centre && coincide(other, path)) {
-            other.kind = std::min(other.kind, kind);
-            return;
-        }
+    }
     m_paths.push_back(path);
+}
+
+/// The pieces of free curves of a kind that no outline, and none of their own kind before them, covers.
+std::vector<LineWork::Path> LineWork::pathsToDraw(dwg::LineKind kind) const
+{
+    std::vector<PathCover> covers;
+    if (kind == dwg::LineKind::Hidden)
+        for (const Path& path : m_paths)
+            if (path.kind == dwg::LineKind::Outline)
+                covers.emplace_back(path.vertices);
+    std::vector<Path> pieces;
+    for (const Path& path : m_paths) {
+        if (path.kind != kind)
+            continue;
+        bool before = true;
+        for (std::size_t i = 0; i < path.vertices.size(); ++i) {
+            const bool now = std::any_of(covers.begin(), covers.end(), [&](const PathCover& cover) {
+                return cover.reaches(path.vertices[i].point);
+            });
+            // A piece between a covered and an uncovered vertex counts as uncovered.
+            if (!now && before)
+                pieces.push_back(
+                    {kind, {path.vertices.begin() + (i == 0 ? 0 : i - 1), path.vertices.begin() + i}});
+            if (!now || !before)
+                pieces.back().vertices.push_back(path.vertices[i]);
+            before = now;
+        }
+        if (pieces.empty() || pieces.back().vertices.size() < 2)
+            continue;
+        covers.emplace_back(path.vertices);
+    }
+    return pieces;
 }
 
 std::vector<Interval> LineWork::partsToDraw(const Kinds& parts, dwg::LineKind kind, double tolerance) const
@@ -167,10 +233,11 @@ std::vector<Interval> LineWork::partsToDraw(const Kinds& parts, dwg::LineKind ki
 std::vector<dwg::Entity> LineWork::entities() const
 {
     std::vector<dwg::Entity> entities;
-    for (const dwg::LineKind kind : {dwg::LineKind::Outline, dwg::LineKind::Hidden, dwg::LineKind::Centre}) {
+    for (const dwg::LineKind kind :
+         {dwg::LineKind::Outline, dwg::LineKind::Hidden, dwg::LineKind::Centre, dwg::LineKind::Thread}) {
         std::vector<Path> pieces;
         for (const LineGroup& group : m_lines)
-            for (const Interval& part : partsToDraw(group.parts, kind, m_tolerance)) {
+            for (const Interval& part : partsToDraw(group.parts, kind, Tolerance)) {
                 const auto point = [&group](double at) {
                     return dwg::Point2{group.origin.x + at * group.direction.x,
                                        group.origin.y + at * group.direction.y};
@@ -179,38 +246,52 @@ std::vector<dwg::Entity> LineWork::entities() const
             }
         for (const CircleGroup& group : m_circles)
             appendCircleParts(entities, pieces, group, kind);
-        std::copy_if(m_paths.begin(), m_paths.end(), std::back_inserter(pieces),
-                     [kind](const Path& path) { return path.kind == kind; });
-        appendChains(entities, pieces);
+        const std::vector<Path> paths = pathsToDraw(kind);
+        pieces.insert(pieces.end(), paths.begin(), paths.end());
+        appendChains(entities, std::move(pieces));
     }
     return entities;
+}
+
+/// Seen end on, an arc is one or, beyond half a turn, several arcs of the polyline; else it is part of an
+/// ellipse.
+std::vector<dwg::PolylineVertex> LineWork::arc(const gp_Circ& circle, const Interval& part) const
+{
+    const bool endOn = m_camera.seesEndOn(circle.Axis().Direction());
+    const double sense = circle.Axis().Direction().Dot(m_camera.toward) > 0 ? 1 : -1;
+    const double largestStep =
+        endOn ? Pi : std::min(LargestTurn, std::sqrt(8 * LargestDeviation / circle.Radius()));
+    const double sweep = part.to - part.from;
+    const int count = std::max(1, static_cast<int>(std::ceil(sweep / largestStep - 1e-9)));
+    std::vector<dwg::PolylineVertex> vertices;
+    for (int i = 0; i <= count; ++i)
+        vertices.push_back({m_camera.project(ElCLib::Value(part.from + i * sweep / count, circle)),
+                            endOn && i < count ? sense * std::tan(sweep / count / 4) : 0});
+    return vertices;
 }
 
 void LineWork::appendCircleParts(std::vector<dwg::Entity>& entities, std::vector<Path>& pieces,
                                  const CircleGroup& group, dwg::LineKind kind) const
 {
-    const double tolerance = m_tolerance / group.radius;
+    const bool isThread = !group.parts[indexOf(dwg::LineKind::Thread)].empty();
+    if (isThread && kind != dwg::LineKind::Thread)
+        return;
+    const double tolerance = Tolerance / group.circle.Radius();
     std::vector<Interval> parts = partsToDraw(group.parts, kind, tolerance);
     const bool meets =
-        !parts.empty() && parts.front().from < tolerance && parts.back().to > 2 * pi - tolerance;
-    if (meets && parts.size() == 1) {
-        entities.push_back({kind, dwg::Circle{group.centre, group.radius}});
+        !parts.empty() && parts.front().from < tolerance && parts.back().to > 2 * Pi - tolerance;
+    const bool endOn = m_camera.seesEndOn(group.circle.Axis().Direction());
+    if (meets && parts.size() == 1 && endOn) {
+        entities.push_back(
+            {kind, dwg::Circle{m_camera.project(group.circle.Location()), group.circle.Radius()}});
         return;
     }
-    if (meets) {
-        parts.front().from = parts.back().from - 2 * pi;
+    if (meets && parts.size() > 1) {
+        parts.front().from = parts.back().from - 2 * Pi;
         parts.pop_back();
     }
-    for (const Interval& part : parts) {
-        const int count = std::max(1, static_cast<int>(std::ceil((part.to - part.from) / pi - 1e-9)));
-        const double step = (part.to - part.from) / count;
-        Path piece{kind, {}};
-        for (int i = 0; i <= count; ++i)
-            piece.vertices.push_back({{group.centre.x + group.radius * std::cos(part.from + i * step),
-                                       group.centre.y + group.radius * std::sin(part.from + i * step)},
-                                      i < count ? std::tan(step / 4) : 0});
-        pieces.push_back(piece);
-    }
+    for (const Interval& part : parts)
+        pieces.push_back({kind, arc(group.circle, part)});
 }
 
 void LineWork::appendChains(std::vector<dwg::Entity>& entities, std::vector<Path> pieces) const
@@ -223,7 +304,7 @@ void LineWork::appendChains(std::vector<dwg::Entity>& entities, std::vector<Path
     for (Path& piece : pieces)
         lines.push_back({std::move(piece.vertices), false});
     if (kind != dwg::LineKind::Centre)
-        lines = chainPolylines(std::move(lines), m_tolerance);
+        lines = chainPolylines(std::move(lines), Tolerance);
     for (dwg::Polyline& line : lines)
         if (line.vertices.size() == 2 && line.vertices.front().bulge == 0)
             entities.push_back({kind, dwg::LineSegment{line.vertices[0].point, line.vertices[1].point}});

@@ -1,12 +1,15 @@
 #include "dev/catalog/drawings/views/ShadedPicture.h"
 
-#include "dev/catalog/drawings/views/HiddenLines.h"
+#include "dev/catalog/drawings/solids/Triangles.h"
+#include "dev/catalog/drawings/views/ViewDrawing.h"
+#include "dev/dwg/DrawingExtents.h"
 
 #include <QColor>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -17,8 +20,10 @@ namespace devcatalog
 namespace
 {
 
-constexpr int oversampling = 3;
-constexpr double margin = 0.05;
+constexpr int Oversampling = 4;
+constexpr double Margin = 0.05;
+/// How far a triangle may be from its surface, of the picture's larger side.
+constexpr double Deviation = 5e-4;
 
 QColor colourOf(Material material)
 {
@@ -43,179 +48,188 @@ QColor colourOf(Material material)
     return Qt::gray;
 }
 
-/// From part to pixels, with y down.
+/// From millimetres in a view to pixels, with y down.
 struct Fit {
-    Camera camera;
     double scale = 1;
-    dwg::Point2 offset;
+    QPointF offset;
 
-    QPointF map(const Vector3& point) const
+    QPointF map(const dwg::Point2& point) const
     {
-        const dwg::Point2 flat = camera.project(point);
-        return {scale * flat.x + offset.x, offset.y - scale * flat.y};
+        return {scale * point.x + offset.x(), offset.y() - scale * point.y};
     }
 };
 
-Fit fitTo(const std::vector<Face>& faces, const Camera& camera, int width, int height)
+Fit fitTo(const dwg::Extents& extents, int width, int height)
 {
-    dwg::Point2 lower = camera.project(faces.front().loops.front().front());
-    dwg::Point2 upper = lower;
-    for (const Face& face : faces)
-        for (const auto& loop : face.loops)
-            for (const Vector3& corner : loop) {
-                const dwg::Point2 point = camera.project(corner);
-                lower = {std::min(lower.x, point.x), std::min(lower.y, point.y)};
-                upper = {std::max(upper.x, point.x), std::max(upper.y, point.y)};
-            }
-    const double scale =
-        (1 - 2 * margin) * std::min(width / (upper.x - lower.x), height / (upper.y - lower.y));
-    return {camera,
-            scale,
-            {width / 2.0 - scale * (lower.x + upper.x) / 2, height / 2.0 + scale * (lower.y + upper.y) / 2}};
+    const double scale = (1 - 2 * Margin) * std::min(width / extents.width(), height / extents.height());
+    const dwg::Point2 centre = extents.centre();
+    return {scale, {width / 2.0 - scale * centre.x, height / 2.0 + scale * centre.y}};
 }
 
-/// Fills faces in an image larger than the picture, nearer ones over farther ones.
-class FacePainter
+/// Fills triangles in an image larger than the picture, nearer ones over farther ones.
+class TrianglePainter
 {
 public:
-    FacePainter(int width, int height, const Fit& fit)
-        : m_image(width * oversampling, height * oversampling, QImage::Format_ARGB32),
+    TrianglePainter(int width, int height, const Fit& fit, const Camera& camera)
+        : m_image(width * Oversampling, height * Oversampling, QImage::Format_ARGB32_Premultiplied),
           m_fit(fit),
+          m_camera(camera),
+          // The light comes over the viewer's left shoulder.
+          m_light(-0.45 * camera.right.XYZ() + 0.65 * camera.up.XYZ() + 0.75 * camera.toward.XYZ()),
+          m_glance(gp_Dir(m_light.XYZ() + camera.toward.XYZ())),
           m_depths(static_cast<std::size_t>(m_image.width()) * static_cast<std::size_t>(m_image.height()),
                    -std::numeric_limits<double>::infinity())
     {
         m_image.fill(Qt::transparent);
     }
 
-    void paint(const Face& face, const QColor& colour)
+    void paint(const Triangle& triangle)
     {
-        const double facing = dot(face.normal, m_fit.camera.toward);
-        if (facing < 1e-3)
+        std::array<Corner, 3> corners;
+        for (std::size_t i = 0; i < 3; ++i)
+            corners[i] = cornerOf(triangle.corners[i], triangle.normals[i]);
+        const double area = doubleArea(corners[0].at, corners[1].at, corners[2].at);
+        if (area >= 0) // turned away, y being down
             return;
-        m_colour = shaded(face.normal, colour);
-        // Depth along a row of pixels, and the way it changes from row to row.
-        const Vector3& corner = face.loops.front().front();
-        m_slopeX = -dot(face.normal, m_fit.camera.right) / facing / (m_fit.scale * oversampling);
-        m_slopeY = dot(face.normal, m_fit.camera.up) / facing / (m_fit.scale * oversampling);
-        const QPointF at = oversampling * m_fit.map(corner);
-        m_depthAtOrigin = m_fit.camera.depth(corner) - m_slopeX * at.x() - m_slopeY * at.y();
-        fill(face);
+        m_colour = colourOf(triangle.material);
+        const auto [top, bottom] = std::minmax({corners[0].at.y(), corners[1].at.y(), corners[2].at.y()});
+        const int last = std::min(m_image.height() - 1, static_cast<int>(bottom));
+        for (int row = std::max(0, static_cast<int>(top)); row <= last; ++row)
+            paintRow(row, corners, area);
     }
 
     QImage picture() const
     {
-        return m_image.scaled(m_image.width() / oversampling, m_image.height() / oversampling,
+        return m_image.scaled(m_image.width() / Oversampling, m_image.height() / Oversampling,
                               Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
 
 private:
-    QRgb shaded(const Vector3& normal, const QColor& colour) const
+    /// A triangle's corner in the image.
+    struct Corner {
+        QPointF at;
+        double depth = 0.0;
+        double brightness = 0.0;
+        double gloss = 0.0;
+    };
+
+    static double doubleArea(const QPointF& a, const QPointF& b, const QPointF& c)
     {
-        // The light comes over the viewer's left shoulder.
-        const Camera& camera = m_fit.camera;
-        const Vector3 light = normalized(-0.45 * camera.right + 0.65 * camera.up + 0.75 * camera.toward);
-        const double brightness = 0.52 + 0.5 * std::max(0.0, dot(normal, light));
-        const auto channel = [brightness](int value) {
-            return std::min(255, static_cast<int>(brightness * value));
-        };
-        return qRgb(channel(colour.red()), channel(colour.green()), channel(colour.blue()));
+        return (b.x() - a.x()) * (c.y() - a.y()) - (b.y() - a.y()) * (c.x() - a.x());
     }
 
-    void fill(const Face& face)
+    Corner cornerOf(const gp_XYZ& place, const gp_XYZ& normal) const
     {
-        std::vector<std::vector<QPointF>> loops;
-        double top = m_image.height();
-        double bottom = 0;
-        for (const auto& loop : face.loops) {
-            loops.emplace_back();
-            for (const Vector3& corner : loop) {
-                loops.back().push_back(oversampling * m_fit.map(corner));
-                top = std::min(top, loops.back().back().y());
-                bottom = std::max(bottom, loops.back().back().y());
-            }
+        return {Oversampling * m_fit.map(m_camera.project(place)), m_camera.depth(place),
+                0.5 + 0.5 * std::max(0.0, normal.Dot(m_light.XYZ())),
+                50 * std::pow(std::max(0.0, normal.Dot(m_glance.XYZ())), 24)};
+    }
+
+    void paintRow(int row, const std::array<Corner, 3>& corners, double area)
+    {
+        const double y = row + 0.5;
+        double left = m_image.width();
+        double right = 0;
+        for (std::size_t i = 0; i < 3; ++i) {
+            const QPointF& a = corners[i].at;
+            const QPointF& b = corners[(i + 1) % 3].at;
+            if ((a.y() > y) == (b.y() > y))
+                continue;
+            const double x = a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y());
+            left = std::min(left, x);
+            right = std::max(right, x);
         }
-        const int last = std::min(m_image.height() - 1, static_cast<int>(bottom));
-        for (int row = std::max(0, static_cast<int>(top)); row <= last; ++row)
-            fillRow(row, crossings(loops, row + 0.5));
-    }
-
-    static std::vector<double> crossings(const std::vector<std::vector<QPointF>>& loops, double y)
-    {
-        std::vector<double> result;
-        for (const auto& loop : loops)
-            for (std::size_t i = 0, previous = loop.size() - 1; i < loop.size(); previous = i++) {
-                const QPointF& a = loop[previous];
-                const QPointF& b = loop[i];
-                if ((a.y() > y) != (b.y() > y))
-                    result.push_back(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
-            }
-        std::sort(result.begin(), result.end());
-        return result;
-    }
-
-    void fillRow(int row, const std::vector<double>& bounds)
-    {
         auto* pixels = reinterpret_cast<QRgb*>(m_image.scanLine(row));
         double* depths = m_depths.data() + static_cast<std::ptrdiff_t>(row) * m_image.width();
-        for (std::size_t i = 0; i + 1 < bounds.size(); i += 2) {
-            const int first = std::max(0, static_cast<int>(std::ceil(bounds[i] - 0.5)));
-            const int last =
-                std::min(m_image.width() - 1, static_cast<int>(std::ceil(bounds[i + 1] - 0.5)) - 1);
-            for (int x = first; x <= last; ++x) {
-                const double depth = m_depthAtOrigin + m_slopeX * (x + 0.5) + m_slopeY * (row + 0.5);
-                if (depth <= depths[x])
-                    continue;
-                depths[x] = depth;
-                pixels[x] = m_colour;
-            }
+        const int last = std::min(m_image.width() - 1, static_cast<int>(std::ceil(right - 0.5)) - 1);
+        for (int column = std::max(0, static_cast<int>(std::ceil(left - 0.5))); column <= last; ++column) {
+            const QPointF at(column + 0.5, y);
+            const double a = doubleArea(corners[1].at, corners[2].at, at) / area;
+            const double b = doubleArea(corners[2].at, corners[0].at, at) / area;
+            const auto mean = [&](double Corner::*value) {
+                return a * corners[0].*value + b * corners[1].*value + (1 - a - b) * corners[2].*value;
+            };
+            const double depth = mean(&Corner::depth);
+            if (depth <= depths[column])
+                continue;
+            depths[column] = depth;
+            pixels[column] = shaded(mean(&Corner::brightness), mean(&Corner::gloss));
         }
+    }
+
+    QRgb shaded(double brightness, double gloss) const
+    {
+        const auto channel = [=](int value) {
+            return std::min(255, static_cast<int>(brightness * value + gloss));
+        };
+        return qRgb(channel(m_colour.red()), channel(m_colour.green()), channel(m_colour.blue()));
     }
 
     QImage m_image;
     Fit m_fit;
+    const Camera& m_camera;
+    QColor m_colour;
+    gp_Dir m_light;
+    gp_Dir m_glance; ///< Normal of surfaces that mirror the light to the viewer.
     std::vector<double> m_depths;
-    QRgb m_colour = 0;
-    double m_slopeX = 0;
-    double m_slopeY = 0;
-    double m_depthAtOrigin = 0;
 };
 
-void drawEdges(QImage& image, const Solid& solid, const Fit& fit)
+/// Adds shapes to a path; those of pictorial views are made of straight pieces.
+struct PathMaker {
+    QPainterPath& path;
+    const Fit& fit;
+
+    void operator()(const dwg::LineSegment& line) const
+    {
+        path.moveTo(fit.map(line.from));
+        path.lineTo(fit.map(line.to));
+    }
+    void operator()(const dwg::Circle& circle) const
+    {
+        path.addEllipse(fit.map(circle.centre), fit.scale * circle.radius, fit.scale * circle.radius);
+    }
+    void operator()(const dwg::Polyline& line) const
+    {
+        QPolygonF points;
+        for (const dwg::PolylineVertex& vertex : line.vertices)
+            points << fit.map(vertex.point);
+        path.addPolygon(points);
+        if (line.closed)
+            path.closeSubpath();
+    }
+};
+
+void drawLines(QImage& image, const std::vector<dwg::Entity>& entities, const Fit& fit)
 {
-    QPainterPath path;
-    for (const Stroke& stroke : findStrokes(solid, fit.camera).strokes) {
-        if (stroke.hidden)
-            continue;
-        const std::vector<double> samples = samplesOf(stroke.curve);
-        path.moveTo(fit.map(pointAt(stroke.curve, samples.front())));
-        for (std::size_t i = 1; i < samples.size(); ++i)
-            path.lineTo(fit.map(pointAt(stroke.curve, samples[i])));
+    QPainterPath edges;
+    QPainterPath threads;
+    for (const dwg::Entity& entity : entities) {
+        QPainterPath& path = entity.kind == dwg::LineKind::Thread ? threads : edges;
+        std::visit(PathMaker{path, fit}, entity.shape);
     }
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     const double width = std::clamp(std::min(image.width(), image.height()) / 110.0, 0.7, 2.0);
+    painter.setPen(
+        QPen(QColor(0x3c, 0x46, 0x52, 0xa0), 0.6 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(threads);
     painter.setPen(QPen(QColor(0x3c, 0x46, 0x52, 0xc0), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(path);
+    painter.drawPath(edges);
 }
 
 } // namespace
 
 QImage paintSolid(const Solid& solid, const Camera& camera, int width, int height)
 {
-    std::vector<std::vector<Face>> faces;
-    std::vector<Face> all;
-    for (const Member& member : solid.members) {
-        faces.emplace_back();
-        member.body->appendFaces(faces.back(), camera.toward);
-        all.insert(all.end(), faces.back().begin(), faces.back().end());
-    }
-    const Fit fit = fitTo(all, camera, width, height);
-    FacePainter painter(width, height, fit);
-    for (std::size_t i = 0; i < faces.size(); ++i)
-        for (const Face& face : faces[i])
-            painter.paint(face, colourOf(solid.members[i].material));
-    QImage picture = painter.picture().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    drawEdges(picture, solid, fit);
+    const std::vector<dwg::Entity> lines = drawView(solid, camera);
+    const dwg::Extents extents = dwg::extentsOf(lines).value();
+    const Fit fit = fitTo(extents, width, height);
+    TrianglePainter painter(width, height, fit, camera);
+    for (const Triangle& triangle :
+         trianglesOf(solid, Deviation * std::max(extents.width(), extents.height())))
+        painter.paint(triangle);
+    QImage picture = painter.picture();
+    drawLines(picture, lines, fit);
     return picture;
 }
 

@@ -1,21 +1,42 @@
 #include "dev/catalog/drawings/views/ViewDrawing.h"
 
+#include "dev/catalog/drawings/solids/Shapes.h"
 #include "dev/catalog/drawings/views/CentreLines.h"
 #include "dev/catalog/drawings/views/HiddenLines.h"
-#include "dev/catalog/drawings/views/LineWork.h"
+#include "dev/catalog/drawings/views/ThreadLines.h"
 
 namespace devcatalog
 {
 
+namespace
+{
+
+/// From the end, all turns cover one another.
+void addCoil(LineWork& lineWork, const Coil& coil, const Camera& camera)
+{
+    if (camera.seesEndOn(gp::DZ())) {
+        for (const double radius : {coil.meanRadius + coil.wireRadius, coil.meanRadius - coil.wireRadius})
+            lineWork.addCircle(dwg::LineKind::Outline, gp_Circ(gp_Ax2(), radius), 0, 2 * Pi);
+        return;
+    }
+    for (const std::vector<gp_Pnt>& line : visibleOutlines(coil, camera.toward))
+        lineWork.addPath(dwg::LineKind::Outline, line);
+}
+
+} // namespace
+
 std::vector<dwg::Entity> drawView(const Solid& solid, const Camera& camera)
 {
-    const StrokeSet strokes = findStrokes(solid, camera);
-    LineWork lineWork(camera, 1e-5 * strokes.size);
-    for (const Stroke& stroke : strokes.strokes)
-        if (!stroke.hidden || !camera.pictorial)
-            lineWork.add(stroke.hidden ? dwg::LineKind::Hidden : dwg::LineKind::Outline, stroke.curve);
+    LineWork lineWork(camera);
+    Sight sight(solid, camera);
+    for (const Stroke& stroke : findStrokes(solid, camera, sight, !camera.pictorial))
+        lineWork.add(stroke.hidden ? dwg::LineKind::Hidden : dwg::LineKind::Outline, stroke.curve,
+                     stroke.from, stroke.to);
+    if (solid.coil)
+        addCoil(lineWork, *solid.coil, camera);
+    addThreadLines(lineWork, solid, camera, sight);
     if (!camera.pictorial)
-        addCentreLines(lineWork, solid, camera, strokes.size);
+        addCentreLines(lineWork, solid, camera);
     return lineWork.entities();
 }
 

@@ -1,0 +1,50 @@
+#include "dev/catalog/drawings/views/Sight.h"
+
+#include "dev/catalog/drawings/views/HiddenLines.h"
+
+#include <BRep_Builder.hxx>
+#include <TopoDS_Compound.hxx>
+
+namespace devcatalog
+{
+
+Sight::Sight(const Solid& solid, const Camera& camera) : m_toward(camera.toward)
+{
+    TopoDS_Compound compound;
+    BRep_Builder builder;
+    builder.MakeCompound(compound);
+    for (const TopoDS_Shape& shape : shapesSeen(solid, camera))
+        builder.Add(compound, shape);
+    m_intersector.Load(compound, 1e-6);
+}
+
+bool Sight::isFree(const gp_Pnt& point, double beginning)
+{
+    constexpr double farAway = 1e6;
+    m_intersector.Perform(gp_Lin(point, m_toward), beginning, farAway);
+    return m_intersector.NbPnt() == 0;
+}
+
+std::vector<Sight::Piece> Sight::split(double from, double to, const std::function<gp_Pnt(double)>& place,
+                                       int steps, double beginning)
+{
+    const double step = (to - from) / steps;
+    std::vector<Piece> pieces{{from, to, isFree(place(from + step / 2), beginning)}};
+    for (int i = 1; i < steps; ++i) {
+        Piece& last = pieces.back();
+        double before = from + (i - 0.5) * step;
+        double after = before + step;
+        if (isFree(place(after), beginning) == last.visible)
+            continue;
+        constexpr int halvings = 20;
+        for (int halving = 0; halving < halvings; ++halving) {
+            const double middle = (before + after) / 2;
+            (isFree(place(middle), beginning) == last.visible ? before : after) = middle;
+        }
+        last.to = after;
+        pieces.push_back({after, to, !last.visible});
+    }
+    return pieces;
+}
+
+} // namespace devcatalog
