@@ -24,8 +24,10 @@ DownloadedFile::DownloadedFile(const QString& name) : m_file(QDir::current().abs
 
 DownloadedFile::~DownloadedFile()
 {
-    if (m_file.isOpen())
-        m_file.remove(); // closes it first
+    if (!m_file.isOpen())
+        return;
+    m_file.close();
+    QFile::remove(path()); // the object's own remove() gives up where closing fails, as on a full disk
 }
 
 QString fileNameOf(const QString& address)

@@ -54,6 +54,8 @@ private slots:
     void whatIsEmptyIsOffered();
     void unusableFileNames_data();
     void unusableFileNames();
+    void fullDisk_data();
+    void fullDisk();
     void frameIsDisabledForAMoment();
     void newerClickDropsTheRequest();
     void newerClickDropsTheFile();
@@ -307,6 +309,27 @@ void DownloadTest::unusableFileNames()
     m_panel->clickPreview(); // the next one works
     QTRY_COMPARE(prompted(), QStringList("part1.dwg"));
     QVERIFY(m_panel->service().requests(path).isEmpty());
+    QVERIFY(m_panel->boxTexts().isEmpty());
+}
+
+void DownloadTest::fullDisk_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addRow("found out at the end") << 100;
+    QTest::addRow("found out on the way") << 3'000'000;
+}
+
+void DownloadTest::fullDisk()
+{
+    QFETCH(int, size);
+    if (!QFile::link("/dev/full", "part0.dwg") || !QFile::exists("part0.dwg"))
+        QSKIP("There is no device that is always full.");
+    m_panel->service().enqueue(DrawingPath, pictureReply(QByteArray(size, 'x')));
+    m_panel->clickPreview();
+    QTRY_VERIFY(!QFileInfo("part0.dwg").isSymLink()); // the file has gone
+    m_panel->clickPreview();
+    QTRY_COMPARE(prompted(), QStringList("part1.dwg"));
+    QCOMPARE(m_panel->view().promptedContents()[0], Drawing);
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
 
