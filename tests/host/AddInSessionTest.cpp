@@ -54,7 +54,6 @@ private slots:
     void optionsAreRead();
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
-    void helpIsPrinted();
 
 private:
     std::unique_ptr<test::FatalWarnings> m_warnings;
@@ -155,7 +154,10 @@ void AddInSessionTest::optionsAreRead()
     const MainWindow window({});
     for (const QAction* language : window.findChildren<QAction*>(QRegularExpression("^language")))
         devhost::parseOptions({"devhost", "--language", language->objectName().mid(8)}, "default.so", &error);
+    const QString help = devhost::parseOptions({"devhost", "--help", "--wrong"}, "", &error).help;
+    QVERIFY(help.contains("--language NUMBER"));
     QCOMPARE(error, QString());
+    QCOMPARE(runScript({"--help"}), std::make_tuple(0, help, QString()));
 }
 
 /// By the program, and by run.sh before it installs or builds anything for them.
@@ -196,15 +198,6 @@ void AddInSessionTest::wrongOptionsAreRefused()
     QCOMPARE(error, refusal);
 
     QCOMPARE(runScript(arguments), std::make_tuple(2, QString(), refusal + '\n'));
-}
-
-void AddInSessionTest::helpIsPrinted()
-{
-    QString error;
-    const QString help = devhost::parseOptions({"devhost", "--help", "--wrong"}, "", &error).help;
-    QVERIFY(help.contains("--language NUMBER"));
-    QCOMPARE(error, QString());
-    QCOMPARE(runScript({"--help"}), std::make_tuple(0, help, QString()));
 }
 
 QTEST_MAIN(AddInSessionTest)

@@ -20,9 +20,8 @@ private slots:
     void cleanup();
 
     void referencesAreCounted();
-    void arraysCanHaveGapsAndStrangers();
     void promptsHandOverAnswersOneAtATime();
-    void blocksArePlacedAndErased();
+    void blocksArePlaced();
 
 private:
     /// Prompts for a block. @return the result; into @p out what was answered.
@@ -83,23 +82,6 @@ void HostModelTest::referencesAreCounted()
     QCOMPARE(m_host->references().errors(), QStringList{"CustomPropertyControl"});
 }
 
-void HostModelTest::arraysCanHaveGapsAndStrangers()
-{
-    m_host->addWorkspace("Workspace");
-    m_host->addMenu("ID_First", "First");
-    m_host->menus().addNull();
-    m_host->menus().addStranger(m_host->workspaces().objects().front());
-    m_host->addMenu("ID_Last", "Last");
-
-    pvObjectPtrArray array;
-    m_host->GetMenuItems(pvUIState_e(2), &array);
-    QCOMPARE(array.getSize(), 4);
-    QVERIFY(array[1] == nullptr);
-    QVERIFY(array[2] != nullptr && dynamic_cast<pvMenuItem_c*>(array[2]) == nullptr);
-    QVERIFY(dynamic_cast<pvMenuItem_c*>(array[3]) != nullptr);
-    QCOMPARE(m_host->menus().objects().size(), std::size_t(2));
-}
-
 void HostModelTest::promptsHandOverAnswersOneAtATime()
 {
     int inner = -1;
@@ -121,7 +103,7 @@ void HostModelTest::promptsHandOverAnswersOneAtATime()
     QCOMPARE(asked.preset.rotation, 0.5);
 }
 
-void HostModelTest::blocksArePlacedAndErased()
+void HostModelTest::blocksArePlaced()
 {
     m_host->newDocument();
     pvDocument_c* document = nullptr;
@@ -143,20 +125,6 @@ void HostModelTest::blocksArePlacedAndErased()
     QCOMPARE(blocks.size(), std::size_t(1));
     QCOMPARE(blocks.front()->name(), QString("HostModelTest"));
     QCOMPARE(blocks.front()->placement().rotation, 0.5);
-
-    // Erased blocks come back to where they were in the order of drawing.
-    manager->InsertBlock2(file, 3, 4, 0, 1, 1, 1, 0, nullptr);
-    manager->InsertBlock2(file, 5, 6, 0, 1, 1, 1, 0, nullptr);
-    devhost::PlacedBlocks& content = m_host->activeDocument()->content();
-    const auto all = content.blocks().objects();
-    content.erase({all.at(2), all.at(0)});
-    QCOMPARE(content.blocks().objects(), (decltype(all){all.at(1)}));
-    content.history().undo();
-    QCOMPARE(content.blocks().objects(), all);
-    content.history().setIndex(0);
-    QVERIFY(content.blocks().objects().empty());
-    content.history().setIndex(3);
-    QCOMPARE(content.blocks().objects(), all);
 }
 
 QTEST_MAIN(HostModelTest)

@@ -75,7 +75,6 @@ void ScriptedService::sendHeld(const Held& held)
 
 void ScriptedService::addConnection(HttpsConnection* connection)
 {
-    ++m_connectionCount;
     connect(connection, &HttpsConnection::bytesArrived, this, [this](qint64 count) { m_byteCount += count; });
     connect(connection, &HttpsConnection::requestArrived, this,
             [this, connection](const RecordedRequest& request) { answer(connection, request); });

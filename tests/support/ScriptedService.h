@@ -51,9 +51,7 @@ public:
     void release(int request);
     void releaseAll();
 
-    /// Connections accepted, whatever became of their handshake.
-    int connectionCount() const { return m_connectionCount; }
-    /// Of those, the ones that have not ended.
+    /// Connections accepted that have not ended, whatever became of their handshake.
     int openConnections() const { return findChildren<devcatalog::HttpsConnection*>().size(); }
     /// Bytes that arrived inside TLS, parts of requests included.
     qint64 byteCount() const { return m_byteCount; }
@@ -75,7 +73,6 @@ private:
     QHash<QString, QQueue<ScriptedReply>> m_queued;
     QVector<RecordedRequest> m_requests;
     QVector<Held> m_held;
-    int m_connectionCount = 0;
     qint64 m_byteCount = 0;
 };
 
