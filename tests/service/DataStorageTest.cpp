@@ -25,11 +25,8 @@ private slots:
 
     void theLastKeyToArriveStays();
     void loginsInARow();
-    void debugOutput();
 
 private:
-    void logIn(DataStorage& session, const QString& token);
-
     std::unique_ptr<test::ServiceFixture> m_fixture;
 };
 
@@ -65,12 +62,15 @@ void DataStorageTest::loginsInARow()
             [&] { tokenUnderTheBox = UserToken; });
     for (const QString token : {"token", "other", "", "again"}) {
         const int before = m_fixture->boxes().size();
-        logIn(session, token);
+        m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", token));
+        session.SetUserId("user@example.test");
+        session.SetPassword("secret");
+        session.UserLogin();
+        QTRY_COMPARE(m_fixture->boxes().size(), before + 1);
         QCOMPARE(test::Envelope::read(m_fixture->service().requests("UserLogin").last().body).parameters,
                  (QStringList{"apiKey=", "userId=user@example.test", "password=secret"}));
         QCOMPARE(UserToken, token);
         QCOMPARE(tokenUnderTheBox, token);
-        QCOMPARE(m_fixture->boxes().size(), before + 1);
         const test::SeenMessageBox& box = m_fixture->boxes().last();
         QCOMPARE(box.text, QString(token.isEmpty() ? "Login is not successful." : "Login is successful."));
         QCOMPARE(box.title, QString("Message"));
@@ -79,28 +79,6 @@ void DataStorageTest::loginsInARow()
         QVERIFY(box.flags.testFlag(Qt::MSWindowsFixedSizeDialogHint));
         QVERIFY(!box.hasParent && box.isModal && !box.quitOnClose);
     }
-}
-
-/// The two replies of a bootstrap are written, and nothing else: no password, and no token.
-void DataStorageTest::debugOutput()
-{
-    m_fixture->service().setReply("ServiceLogin", ScriptedReply::xml("<one/>"));
-    m_fixture->service().setReply(KeyOperation, ScriptedReply::xml("<two/>").held());
-    DataStorage session;
-    QTRY_COMPARE(m_fixture->service().heldCount(), 1);
-    m_fixture->service().releaseAll();
-    logIn(session, "token");
-    QTRY_COMPARE(m_fixture->warnings().debugLines(), (QStringList{"data \"<one/>\"", "data \"<two/>\""}));
-}
-
-void DataStorageTest::logIn(DataStorage& session, const QString& token)
-{
-    const int before = m_fixture->boxes().size();
-    m_fixture->service().setReply("UserLogin", ScriptedReply::result("UserLogin", token));
-    session.SetUserId("user@example.test");
-    session.SetPassword("secret");
-    session.UserLogin();
-    QTRY_COMPARE(m_fixture->boxes().size(), before + 1);
 }
 
 QTEST_MAIN(DataStorageTest)

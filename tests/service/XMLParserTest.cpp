@@ -43,13 +43,9 @@ private slots:
     void cleanup() { m_warnings.reset(); }
 
     void hits();
-    void names_data();
     void names();
-    void configurations();
-    void itemCount_data();
     void itemCount();
     void malformedReplyKeepsTheLastGoodOne();
-    void files_data();
     void files();
     void missingFile();
     void factoryAndAccessor();
@@ -96,65 +92,50 @@ void XMLParserTest::hits()
     }
 }
 
-void XMLParserTest::names_data()
-{
-    QTest::addColumn<QString>("child");
-    QTest::addColumn<QString>("name");
-    const auto add = [](const char* row, const char* child, const char* name) {
-        QTest::newRow(row) << QString(child) << QString(name);
-    };
-    add("one blank", "<n> M8</n>", "M8");
-    add("two blanks", "<n>  M8 </n>", " M8 ");
-    add("a tab is no blank", "<n>\tM8</n>", "\tM8");
-    add("white space alone is dropped", "<n> </n>", "");
-    add("escaped", "<n>&lt;M8&gt; &amp;</n>", "<M8> &");
-    add("section", "<n><![CDATA[<M8>]]></n>", "<M8>");
-    add("an element inside has no text", "<n><b>M8</b></n>", "");
-    add("the first text alone", "<n>M8<b/>x40</n>", "M8");
-}
-
 void XMLParserTest::names()
 {
-    QFETCH(QString, child);
-    QFETCH(QString, name);
+    const QPair<QString, QString> children[] = {
+        {"<n> M8</n>", "M8"},
+        {"<n>  M8 </n>", " M8 "},
+        {"<n>\tM8</n>", "\tM8"},
+        {"<n> </n>", ""}, // White space alone is dropped.
+        {"<n>&lt;M8&gt; &amp;</n>", "<M8> &"},
+        {"<n><![CDATA[<M8>]]></n>", "<M8>"},
+        {"<n><b>M8</b></n>", ""},
+        {"<n>M8<b/>x40</n>", "M8"},
+    };
     XMLParser parser;
-    parser.setContent("<r><ISearchItem>" + child + "</ISearchItem></r>");
-    QCOMPARE(parser.GetSearchItemNames(), QStringList{name});
-}
-
-void XMLParserTest::configurations()
-{
-    XMLParser parser;
+    for (const auto& [child, name] : children) {
+        parser.setContent("<r><ISearchItem>" + child + "</ISearchItem></r>");
+        QCOMPARE(parser.GetSearchItemNames(), QStringList{name});
+    }
     parser.setContent("<r><IConfiguration><n> one</n><m>x</m></IConfiguration><IConfiguration/>"
                       "<IConfiguration><n>two</n></IConfiguration></r>");
     QCOMPARE(parser.GetConfigurationNames(), (QStringList{" one", "", "two"}));
     QCOMPARE(parser.GetSearchItemNames(), QStringList());
 }
 
-void XMLParserTest::itemCount_data()
-{
-    QTest::addColumn<QString>("reply");
-    QTest::addColumn<int>("count");
-    for (const int count : {0, -1, 2147483647})
-        QTest::addRow("%d", count) << searchReply({}, QString::number(count)) << count;
-    for (const char* text : {"2147483648", "60 hits", "6e1", "0x10", ""})
-        QTest::newRow(text) << searchReply({}, text) << 0;
-    QTest::newRow("missing") << "<r/>" << 0;
-    QTest::newRow("behind the hits") << "<r><ISearchItem/><b><ActualItemCount>7</ActualItemCount></b></r>"
-                                     << 7;
-    QTest::newRow("inside a hit") << "<r><ISearchItem><ActualItemCount>8</ActualItemCount></ISearchItem></r>"
-                                  << 8;
-    QTest::newRow("the first of two") << "<r><b><ActualItemCount>1</ActualItemCount></b>"
-                                         "<ActualItemCount>2</ActualItemCount></r>"
-                                      << 1;
-}
-
 void XMLParserTest::itemCount()
 {
-    QFETCH(QString, reply);
-    XMLParser parser;
-    parser.setContent(reply);
-    QTEST(parser.GetActualItemCount(), "count");
+    const QPair<QString, int> replies[] = {
+        {searchReply({}, "0"), 0},
+        {searchReply({}, "-1"), -1},
+        {searchReply({}, "2147483647"), 2147483647},
+        {searchReply({}, "2147483648"), 0},
+        {searchReply({}, "60 hits"), 0},
+        {searchReply({}, "6e1"), 0},
+        {searchReply({}, "0x10"), 0},
+        {searchReply({}, ""), 0},
+        {"<r/>", 0},
+        {"<r><ISearchItem/><b><ActualItemCount>7</ActualItemCount></b></r>", 7},
+        {"<r><ISearchItem><ActualItemCount>8</ActualItemCount></ISearchItem></r>", 8},
+        {"<r><b><ActualItemCount>1</ActualItemCount></b><ActualItemCount>2</ActualItemCount></r>", 1},
+    };
+    for (const auto& [reply, count] : replies) {
+        XMLParser parser;
+        parser.setContent(reply);
+        QVERIFY2(parser.GetActualItemCount() == count, qPrintable(reply));
+    }
 }
 
 void XMLParserTest::malformedReplyKeepsTheLastGoodOne()
@@ -176,30 +157,23 @@ void XMLParserTest::malformedReplyKeepsTheLastGoodOne()
     QCOMPARE(parser.GetSearchItemNames(), QStringList());
 }
 
-void XMLParserTest::files_data()
+void XMLParserTest::files()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("names");
     const QString reply = QString::fromUtf8("<r><ISearchItem><n>\xC3\xA9\r\n</n></ISearchItem></r>");
     const auto declared = [&reply](const char* encoding) {
         return QString("<?xml version='1.0' encoding='%1'?>%2").arg(encoding, reply);
     };
     const QStringList names{QString::fromUtf8("\xC3\xA9\n")};
-    QTest::newRow("UTF-8, declared, marked") << "\xEF\xBB\xBF" + declared("utf-8").toUtf8() << names;
-    QTest::newRow("Latin-1") << declared("iso-8859-1").toLatin1() << names;
-    QTest::newRow("UTF-16, marked") << QTextCodec::codecForName("UTF-16")->fromUnicode(
-                                           declared("utf-16").remove('\r'))
-                                    << names;
-    QTest::newRow("unknown encoding") << declared("klingon").toUtf8() << names;
-    QTest::newRow("malformed") << reply.toUtf8().chopped(1) << QStringList();
-}
-
-void XMLParserTest::files()
-{
-    QFETCH(QByteArray, bytes);
+    const QPair<QByteArray, QStringList> files[] = {
+        {"\xEF\xBB\xBF" + declared("utf-8").toUtf8(), names},
+        {declared("iso-8859-1").toLatin1(), names},
+        {QTextCodec::codecForName("UTF-16")->fromUnicode(declared("utf-16").remove('\r')), names},
+        {declared("klingon").toUtf8(), names},
+        {reply.toUtf8().chopped(1), QStringList()},
+    };
     const test::MessageBoxAnswerer answerer;
-    const XMLParser parser(fileOf(bytes));
-    QTEST(parser.GetSearchItemNames(), "names");
+    for (const auto& [bytes, found] : files)
+        QCOMPARE(XMLParser(fileOf(bytes)).GetSearchItemNames(), found);
     QCOMPARE(answerer.boxes().size(), 0);
 }
 
