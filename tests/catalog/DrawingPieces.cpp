@@ -76,13 +76,8 @@ bool DrawingPiece::covers(const DrawingPiece& other) const
 
 QString DrawingPiece::toString() const
 {
-    return QString("kind %1 from %2, %3 to %4, %5 bulge %6")
-        .arg(static_cast<int>(kind))
-        .arg(from.x)
-        .arg(from.y)
-        .arg(to.x)
-        .arg(to.y)
-        .arg(bulge);
+    return QString::asprintf("kind %d from %g, %g to %g, %g bulge %g", static_cast<int>(kind), from.x, from.y,
+                             to.x, to.y, bulge);
 }
 
 std::vector<DrawingPiece> piecesOf(const Drawing& drawing, std::optional<LineKind> kind)
