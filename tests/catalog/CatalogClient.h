@@ -55,6 +55,8 @@ public:
 
     QString address(const QString& path) const;
 
+    const QSslConfiguration& tls() const { return m_tls; }
+
 private:
     int m_port;
     QSslConfiguration m_tls;
