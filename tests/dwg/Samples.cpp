@@ -25,7 +25,7 @@ QJsonArray toJson(Point2 point)
     return {point.x, point.y};
 }
 
-constexpr std::array<const char*, 4> layerNames = {"Outline", "Hidden", "Centre", "Thread"}; ///< by kind
+constexpr std::array<const char*, 4> LayerNames = {"Outline", "Hidden", "Centre", "Thread"}; ///< by kind
 
 struct ShapeToJson {
     QJsonObject operator()(const LineSegment& line) const
@@ -56,7 +56,7 @@ struct ShapeToJson {
 QJsonObject toJson(const Entity& entity)
 {
     QJsonObject json = std::visit(ShapeToJson(), entity.shape);
-    json["layer"] = layerNames.at(static_cast<std::size_t>(entity.kind));
+    json["layer"] = LayerNames.at(static_cast<std::size_t>(entity.kind));
     return json;
 }
 

@@ -14,7 +14,8 @@ namespace
 std::time_t twoYearsAgo()
 {
     constexpr std::time_t day = 24L * 60 * 60;
-    return std::time(nullptr) - 2 * 365 * day;
+    constexpr std::time_t days = 2L * 365;
+    return std::time(nullptr) - days * day;
 }
 
 } // namespace

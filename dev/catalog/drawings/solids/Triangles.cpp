@@ -117,7 +117,7 @@ std::vector<Triangle> trianglesOf(const Solid& solid, double deviation)
 {
     std::vector<Triangle> triangles;
     for (const Body& body : solid.bodies) {
-        BRepMesh_IncrementalMesh(body.shape, deviation, false, LargestTurn);
+        const BRepMesh_IncrementalMesh mesh(body.shape, deviation, false, LargestTurn); // kept in the shape
         for (TopExp_Explorer face(body.shape, TopAbs_FACE); face.More(); face.Next())
             appendFace(triangles, TopoDS::Face(face.Current()), body.material);
     }

@@ -131,9 +131,11 @@ void LineWork::addCircleSeenFromTheSide(dwg::LineKind kind, const gp_Circ& circl
     const double turn =
         ElCLib::Parameter(circle, circle.Location().Translated(circle.Radius() * gp_Vec(line)));
     double before = from;
-    for (double next = turn + std::ceil((from - turn) / Pi) * Pi; next < to; next += Pi) {
+    double next = turn + std::ceil((from - turn) / Pi) * Pi;
+    while (next < to) {
         addLine(kind, ElCLib::Value(before, circle), ElCLib::Value(next, circle));
         before = next;
+        next += Pi;
     }
     addLine(kind, ElCLib::Value(before, circle), ElCLib::Value(to, circle));
 }
@@ -210,8 +212,9 @@ std::vector<LineWork::Path> LineWork::pathsToDraw(dwg::LineKind kind) const
             });
             // A piece between a covered and an uncovered vertex counts as uncovered.
             if (!now && before)
-                pieces.push_back(
-                    {kind, {path.vertices.begin() + (i == 0 ? 0 : i - 1), path.vertices.begin() + i}});
+                pieces.push_back({kind, {}});
+            if (!now && before && i > 0)
+                pieces.back().vertices.push_back(path.vertices[i - 1]);
             if (!now || !before)
                 pieces.back().vertices.push_back(path.vertices[i]);
             before = now;
