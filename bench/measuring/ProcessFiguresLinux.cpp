@@ -22,7 +22,7 @@ qint64 heapInUse()
 {
 #if __GLIBC_PREREQ(2, 33)
     const auto heap = mallinfo2();
-    return static_cast<qint64>(heap.uordblks + heap.hblkhd);
+    return static_cast<qint64>(heap.uordblks) + static_cast<qint64>(heap.hblkhd);
 #else
     return 0;
 #endif
