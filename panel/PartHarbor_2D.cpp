@@ -116,11 +116,13 @@ void PartHarbor_2D::fillTable()
 {
     removeRows();
     readResults();
-    // Hidden, the table lays its rows out once, when all are there, and not each of them at each step.
+    // Hidden, the rows are laid out once, when all are there. A description shown while it is still too low
+    // would also scroll to its cursor, and stay cut off at the top.
     m_form->tableWidget->viewport()->hide();
     QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
         control = addRow(row)->followInTabOrder(control);
+    m_rowHeights->fit();
     m_form->tableWidget->viewport()->show();
 }
 

@@ -32,11 +32,20 @@ void RowHeights::forget(QWidget* cellWidget)
 bool RowHeights::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
-        fit();
+        adapt(Qt::QueuedConnection); // the table is being laid out
     return QObject::eventFilter(watched, event);
 }
 
 void RowHeights::fit()
+{
+    // The first round may bring up the scroll bar, the second gives the rows what it leaves of the width.
+    for (int round = 0; round < 2; ++round) {
+        adapt(Qt::DirectConnection);
+        m_table->doItemsLayout();
+    }
+}
+
+void RowHeights::adapt(Qt::ConnectionType connection)
 {
     constexpr int gridLine = 1;
     int height = 0;
@@ -50,5 +59,5 @@ void RowHeights::fit()
     if (m_table->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff)
         m_table->setMinimumHeight(height * m_table->rowCount() + 2 * m_table->frameWidth());
     // A header looks at a smaller minimum only when it is resized.
-    QMetaObject::invokeMethod(header, "resizeSections", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(header, "resizeSections", connection);
 }

@@ -19,12 +19,15 @@ public:
     void watch(QWidget* cellWidget);
     /// To be called with a widget that leaves its cell.
     void forget(QWidget* cellWidget);
+    /// Lays the rows out now. For new rows in a hidden viewport: they then show up in their final size, and
+    /// not in several that lead to it.
+    void fit();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void fit();
+    void adapt(Qt::ConnectionType connection);
 
     QTableWidget* m_table;
 };

@@ -76,7 +76,8 @@ void DockedPaneTest::theHelpButtonStandsInTheCorner()
 {
     const auto* corner = qobject_cast<QFrame*>(tabs()->cornerWidget(Qt::TopRightCorner));
     QVERIFY(corner != nullptr && corner->isVisible());
-    QCOMPARE(corner->frameStyle(), QFrame::StyledPanel | QFrame::Plain);
+    QCOMPARE(corner->frameShape(), QFrame::StyledPanel);
+    QCOMPARE(corner->frameShadow(), QFrame::Plain);
     const auto* layout = qobject_cast<QHBoxLayout*>(corner->layout());
     QVERIFY(layout != nullptr);
     QCOMPARE(layout->contentsMargins(), QMargins());

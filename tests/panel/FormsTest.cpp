@@ -233,7 +233,8 @@ void FormsTest::translatedTexts()
 
     QCOMPARE(container.windowTitle(), QString("ParentWidget|ParentWidget"));
     QCOMPARE(container.layout()->contentsMargins(), QMargins(2, 2, 1, 1));
-    QCOMPARE(container.findChild<QFrame*>("frame")->frameStyle(), QFrame::StyledPanel | QFrame::Raised);
+    QCOMPARE(container.findChild<QFrame*>("frame")->frameShape(), QFrame::StyledPanel);
+    QCOMPARE(container.findChild<QFrame*>("frame")->frameShadow(), QFrame::Raised);
     compareTexts(panel, {{"", "windowTitle", "PartHarbor_2DMain|CircleInserter"}});
     compareTexts(results, {{"", "windowTitle", "PartHarbor_2D|PartHarbor_2D"},
                            {"prev_pushButton", "text", "PartHarbor_2D|<"},

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QtTest>
@@ -120,7 +121,9 @@ void RowsTest::endlessTextsAreCut()
     m_panel->service().setReply(SearchOperationName,
                                 searchReply({{endless, endless, "pictures/part.png", endless}}));
     m_panel->service().setReply(ConfigInfoOperationName, test::configurationsReply({endless}));
+    m_panel->window().resize(350, 500);
     m_panel->showResults();
+    QCOMPARE(m_panel->row(0)->findChild<QTextEdit*>()->verticalScrollBar()->value(), 0);
     m_panel->clickThumbnail(0);
     auto* page = m_panel->shown<PreviewUI>();
     QTRY_COMPARE(m_panel->sent(test::ConfigParamsOperationName, "configName"), QStringList(endless));
