@@ -3,7 +3,7 @@
 #include "dev/catalog/BuiltInOptions.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -13,7 +13,7 @@
 #include <QNetworkReply>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <atomic>
 #include <future>

@@ -1,6 +1,6 @@
 #include "tests/catalog/CatalogFixture.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "dev/catalog/parts/PartCatalog.h"
 
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <string>

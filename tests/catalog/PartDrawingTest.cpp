@@ -10,7 +10,7 @@
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
 #include <QImage>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cmath>

@@ -7,7 +7,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QTemporaryFile>
-#include <QtTest>
+#include <QTest>
 
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>

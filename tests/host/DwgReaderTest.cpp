@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QPolygonF>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <random>

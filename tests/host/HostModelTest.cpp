@@ -4,7 +4,7 @@
 
 #include <pvInterface/pvInterfacePtr.h>
 
-#include <QtTest>
+#include <QTest>
 
 using devhost::BlockPrompt;
 using devhost::BlockPromptAnswer;

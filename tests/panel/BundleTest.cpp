@@ -5,7 +5,7 @@
 
 #include <QPointer>
 #include <QPushButton>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <functional>

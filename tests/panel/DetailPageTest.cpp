@@ -10,8 +10,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
 #include <QTreeWidget>
-#include <QtTest>
 
 using test::ConfigInfoOperationName;
 using test::ConfigParamsOperationName;

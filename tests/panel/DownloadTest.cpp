@@ -6,7 +6,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 using devhost::BlockPrompt;
 using devhost::BlockPromptAnswer;

@@ -14,9 +14,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 #include <QTranslator>
 #include <QTreeWidget>
-#include <QtTest>
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabBar>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -7,7 +7,8 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 using test::PanelFixture;
 using test::SearchOperationName;

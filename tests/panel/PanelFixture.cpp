@@ -13,7 +13,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QTableWidget>
-#include <QtTest>
+#include <QTest>
 
 namespace test
 {

@@ -7,8 +7,8 @@
 #include <QImage>
 #include <QImageWriter>
 #include <QPushButton>
+#include <QTest>
 #include <QtEndian>
-#include <QtTest>
 
 using test::PanelFixture;
 using test::pictureReply;

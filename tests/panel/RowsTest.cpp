@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
+#include <QTest>
 #include <QTextEdit>
-#include <QtTest>
 
 using test::ConfigInfoOperationName;
 using test::hits;

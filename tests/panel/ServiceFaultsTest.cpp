@@ -9,7 +9,7 @@
 #include "tests/support/WaitUntil.h"
 
 #include <QLabel>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 

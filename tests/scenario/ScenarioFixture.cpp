@@ -4,7 +4,7 @@
 #include "tests/support/ScriptedCatalog.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <chrono>

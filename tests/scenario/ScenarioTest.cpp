@@ -7,8 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTextEdit>
-#include <QtTest>
 
 #include <algorithm>
 

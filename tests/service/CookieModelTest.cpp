@@ -6,7 +6,7 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 #include <memory>

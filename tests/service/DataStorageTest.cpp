@@ -3,7 +3,7 @@
 #include "tests/service/Envelope.h"
 #include "tests/service/ServiceFixture.h"
 
-#include <QtTest>
+#include <QTest>
 
 using test::ScriptedReply;
 

@@ -4,8 +4,8 @@
 
 #include <QDomDocument>
 #include <QRandomGenerator>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include "tests/service/Envelope.h"
 #include "tests/service/ServiceFixture.h"
 
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 using test::ScriptedReply;
 using Answer = ScriptedReply (*)(const QByteArray& body);

@@ -8,7 +8,7 @@
 
 #include <QFile>
 #include <QGridLayout>
-#include <QtTest>
+#include <QTest>
 
 using test::ScriptedReply;
 

@@ -3,7 +3,7 @@
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QtTest>
+#include <QTest>
 
 using test::ScriptedReply;
 

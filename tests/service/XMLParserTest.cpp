@@ -5,8 +5,8 @@
 #include "tests/support/ScriptedCatalog.h"
 
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <algorithm>
 #include <array>

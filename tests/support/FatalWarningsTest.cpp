@@ -1,6 +1,6 @@
 #include "tests/support/FatalWarnings.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <thread>

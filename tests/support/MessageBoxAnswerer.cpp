@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPointer>
-#include <QtTest>
+#include <QTest>
 
 namespace test
 {

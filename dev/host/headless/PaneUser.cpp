@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 
