@@ -2,6 +2,7 @@
 
 #include "addin/DockWidgetApplication.h"
 #include "addin/HelpButton.h"
+#include "addin/SteadyTabs.h"
 #include "panel/LogInPage.h"
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/ParentWidget.h"
@@ -75,6 +76,7 @@ bool DockWidgetApplication::createDockWidget()
     pane->setMinimumWidth(MinimumPaneWidth);
 
     m_tabWidget = new QTabWidget(pane);
+    new SteadyTabs(m_tabWidget);
     auto* container = new ParentWidget(nullptr);
     auto* mainPanel = new PV3DPartHarbor_2D(m_app.get(), container);
     qobject_cast<QGridLayout*>(container->layout())->addWidget(mainPanel);

@@ -117,6 +117,7 @@ void PV3DPartHarbor_2D::startSearch()
     delete m_parentLayout->replaceWidget(this, m_resultsPage, Qt::FindChildrenRecursively);
     m_resultsPage->show();
     leave();
+    m_resultsPage->settle();
 }
 
 void PV3DPartHarbor_2D::leave()

@@ -6,6 +6,7 @@
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PageButtonGroup.h"
 #include "panel/RowHeights.h"
+#include "panel/SettledLayout.h"
 #include "panel/TableItem.h"
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
@@ -124,6 +125,13 @@ void PartHarbor_2D::fillTable()
         control = addRow(row)->followInTabOrder(control);
     m_rowHeights->fit();
     m_form->tableWidget->viewport()->show();
+    settle();
+}
+
+void PartHarbor_2D::settle()
+{
+    m_form->tableWidget->doItemsLayout();
+    settleLayout(m_form->tableWidget->viewport());
 }
 
 void PartHarbor_2D::removeRows()

@@ -42,6 +42,7 @@ public:
     /// Prepares the table and sends the search for SearchTerm at CurrentPageNumber. Without an API key, or
     /// without the request's template, a box opens instead, during which the page may go.
     void startSearch();
+    void settle();
 
     /// The last reply's document; a row looks its preview up in it.
     const XMLParser& parser() const { return *m_parser; }

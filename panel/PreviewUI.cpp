@@ -194,6 +194,7 @@ void PreviewUI::OnBackbuttonclicked()
         return;
     m_parentWidget->layout()->addWidget(m_resultsPage);
     m_resultsPage->show();
+    m_resultsPage->settle();
 }
 
 void PreviewUI::SetModelData(QNetworkReply* pReply)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+#include <QSize>
+
+class QTabWidget;
+
+/// Keeps from a tab widget the layout requests that change neither of its size hints. It would lay itself out
+/// and repaint its whole page for each, and any text or picture that changes on a page sends several.
+class SteadyTabs : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param tabs owns the object.
+    explicit SteadyTabs(QTabWidget* tabs);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QTabWidget* m_tabs;
+    QSize m_sizeHint;
+    QSize m_minimumSizeHint;
+};
