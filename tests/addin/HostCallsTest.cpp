@@ -212,77 +212,61 @@ void HostCallsTest::registration_data()
     const auto tab = [](HostApplication& host) {
         return host.workspaces().objects().front()->tabs().objects().at(1);
     };
-    const auto row = [](const char* name, const Arrangement& arrange, const QStringList& registered) {
+    const auto row = [](const char* name, const QStringList& registered, const Arrangement& arrange) {
         QTest::newRow(name) << arrange << registered;
     };
 
-    row("name taken", [](HostApplication& host) { host.addCommand("3DPH"); }, {});
-    row("negative creation error",
-        [](HostApplication& host) { host.refuseCommands(pvCreateCommandError_e(-1)); }, {});
-    row(
-        "pane not shown by the host",
-        [](HostApplication& host) {
-            host.answers().fail("CustomPropertyControl.put_Visible", PVRESULT_False);
-        },
-        commands + entry + button);
-    row(
-        "no import menu",
-        [](HostApplication& host) {
-            host.menus() = {};
-            host.addMenu("ID_File", "File");
-            host.addMenu("id_import", "Other letter case");
-        },
-        commands + QStringList{"id_import/0: 3DPH UserCommand_3DPH"} + button);
-    row(
-        "two import menus", [](HostApplication& host) { host.addMenu("ID_Import", "Second"); },
-        commands + entry + button);
-    row(
-        "no import menu, null entry last",
-        [](HostApplication& host) {
-            host.menus() = {};
-            host.addMenu("ID_File", "File");
-            host.menus().addNull();
-        },
-        commands + QStringList{"ID_File/0: 3DPH UserCommand_3DPH"} + button);
-    row(
-        "null menus alone",
-        [](HostApplication& host) {
-            host.menus() = {};
-            host.menus().addNull();
-        },
-        commands + button);
-    row(
-        "gaps and strangers in every list",
-        [=](HostApplication& host) {
-            host.addCommand("OTHER");
-            const auto stranger = host.commands().objects().back();
-            const auto fill = [&](auto& list) {
-                const auto objects = list.objects();
-                list = {};
-                for (const auto& object : objects) {
-                    list.addNull();
-                    list.addStranger(stranger);
-                    list.add(object);
-                }
+    row("name taken", {}, [](HostApplication& host) { host.addCommand("3DPH"); });
+    row("negative creation error", {},
+        [](HostApplication& host) { host.refuseCommands(pvCreateCommandError_e(-1)); });
+    row("pane not shown by the host", commands + entry + button, [](HostApplication& host) {
+        host.answers().fail("CustomPropertyControl.put_Visible", PVRESULT_False);
+    });
+    row("two import menus", commands + entry + button,
+        [](HostApplication& host) { host.addMenu("ID_Import", "Second"); });
+    const QStringList inOther{"id_import/0: 3DPH UserCommand_3DPH"};
+    row("no import menu", commands + inOther + button, [](HostApplication& host) {
+        host.menus() = {};
+        host.addMenu("ID_File", "File");
+        host.addMenu("id_import", "Other letter case");
+    });
+    const QStringList inFile{"ID_File/0: 3DPH UserCommand_3DPH"};
+    row("no import menu, null entry last", commands + inFile + button, [](HostApplication& host) {
+        host.menus() = {};
+        host.addMenu("ID_File", "File");
+        host.menus().addNull();
+    });
+    row("null menus alone", commands + button, [](HostApplication& host) {
+        host.menus() = {};
+        host.menus().addNull();
+    });
+    row("gaps and strangers in every list", commands + entry + button, [=](HostApplication& host) {
+        host.addCommand("OTHER");
+        const auto stranger = host.commands().objects().back();
+        const auto fill = [&](auto& list) {
+            const auto objects = list.objects();
+            list = {};
+            for (const auto& object : objects) {
                 list.addNull();
-            };
-            fill(host.menus());
-            fill(tab(host)->panels().objects().at(1)->row()->buttons());
-            fill(tab(host)->panels());
-            fill(host.workspaces().objects().front()->tabs());
-        },
-        commands + entry + button);
-    row(
-        "several tabs, panels and rows that match",
-        [=](HostApplication& host) {
-            tab(host)->addPanel("ID_ImportPanel", "Second", "ID_ImportPANELROW");
-            devhost::HostRibbonTab& second =
-                host.workspaces().objects().front()->addTab("ID_ImportTab", "Second");
-            second.addPanel("ID_ImportPanel", "Third", "ID_ImportPANELROW");
-            second.addPanel("ID_ImportPanel", "Of another row", "ID_OtherPANELROW");
-            second.addPanel("ID_ImportPanel", "Without a row", QString());
-        },
-        commands + entry + button + button + button);
+                list.addStranger(stranger);
+                list.add(object);
+            }
+            list.addNull();
+        };
+        fill(host.menus());
+        fill(tab(host)->panels().objects().at(1)->row()->buttons());
+        fill(tab(host)->panels());
+        fill(host.workspaces().objects().front()->tabs());
+    });
+    const QStringList matching = commands + entry + button + button + button;
+    row("several tabs, panels and rows that match", matching, [=](HostApplication& host) {
+        tab(host)->addPanel("ID_ImportPanel", "Second", "ID_ImportPANELROW");
+        devhost::HostRibbonTab& second =
+            host.workspaces().objects().front()->addTab("ID_ImportTab", "Second");
+        second.addPanel("ID_ImportPanel", "Third", "ID_ImportPANELROW");
+        second.addPanel("ID_ImportPanel", "Of another row", "ID_OtherPANELROW");
+        second.addPanel("ID_ImportPanel", "Without a row", QString());
+    });
 }
 
 void HostCallsTest::registration()

@@ -4,8 +4,6 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include <functional>
-
 namespace
 {
 
@@ -70,46 +68,35 @@ int HostThemeTest::optionReads()
     return m_addIn->takeCalls().count(OptionRead);
 }
 
-using Arrangement = std::function<void(devhost::HostApplication&)>;
-Q_DECLARE_METATYPE(Arrangement)
-
 void HostThemeTest::iconsAndBoxes_data()
 {
-    QTest::addColumn<Arrangement>("arrange");
+    QTest::addColumn<int>("theme");
+    QTest::addColumn<QString>("failing"); // call of the host
     QTest::addColumn<QString>("icon");
-    QTest::addColumn<bool>("darkBoxes");
     QTest::addColumn<int>("reads");
-    const auto row = [](const char* name, const Arrangement& arrange, const QString& icon, bool darkBoxes,
-                        int reads) { QTest::newRow(name) << arrange << icon << darkBoxes << reads; };
-
-    row(
-        "dark", [](auto& host) { host.settings().darkTheme = true; }, DarkIcon, true, 1);
-    row(
-        "dark in another way",
-        [](auto& host) {
-            host.settings().darkTheme = true;
-            host.settings().darkThemeValue = 2;
-        },
-        DarkIcon, true, 1);
-    row(
-        "no options", [](auto& host) { host.answers().fail("GetApplicationOptions", PVRESULT_False); },
-        DarkIcon, true, 0);
-    row(
-        "no value", [](auto& host) { host.answers().fail(OptionRead.section('(', 0, 0), PVRESULT_False); },
-        LightIcon, false, 1);
-    row(
-        "name taken, light", [](auto& host) { host.addCommand("3DPH"); }, QString(), true, 0);
+    QTest::addRow("dark") << 1 << QString() << DarkIcon << 1;
+    QTest::addRow("dark in another way") << 2 << QString() << DarkIcon << 1;
+    QTest::addRow("no options") << 0 << "GetApplicationOptions" << DarkIcon << 0;
+    QTest::addRow("no value") << 0 << OptionRead.section('(', 0, 0) << LightIcon << 1;
+    QTest::addRow("name taken, light") << 0 << "name" << QString() << 0;
 }
 
 void HostThemeTest::iconsAndBoxes()
 {
-    QFETCH(Arrangement, arrange);
+    QFETCH(int, theme);
+    QFETCH(QString, failing);
     QFETCH(QString, icon);
-    QFETCH(bool, darkBoxes);
-    arrange(m_addIn->host());
+    devhost::HostSettings& settings = m_addIn->host().settings();
+    settings.darkTheme = theme != 0;
+    settings.darkThemeValue = theme;
+    if (failing == "name")
+        m_addIn->host().addCommand("3DPH");
+    else if (!failing.isEmpty())
+        m_addIn->host().answers().fail(failing, PVRESULT_False);
     m_addIn->connect();
     QTEST(optionReads(), "reads");
     QCOMPARE(icons(), icon.isNull() ? QStringList() : QStringList({icon, icon}));
+    QVERIFY(icon.isNull() || QFile::exists(icon));
 
     errorBox();
     // A refused connection is a login without a token.
@@ -120,7 +107,7 @@ void HostThemeTest::iconsAndBoxes()
 
     QVERIFY(darkSheet().size() > 1000);
     for (const test::SeenMessageBox& box : m_addIn->answerer().boxes())
-        QCOMPARE(box.styleSheet, darkBoxes ? darkSheet() : QString());
+        QCOMPARE(box.styleSheet, icon == LightIcon ? QString() : darkSheet());
 }
 
 void HostThemeTest::theFirstThemeStays()

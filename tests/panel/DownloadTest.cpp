@@ -43,11 +43,9 @@ private slots:
 
     void needsALogin();
     void drawingIsInserted();
-    void nothingIsInserted_data();
     void nothingIsInserted();
     void fileNames_data();
     void fileNames();
-    void eachDownloadHasANumber();
     void formerFilesGo();
     void drawingIsCompleteAtThePrompt();
     void whatIsEmptyIsOffered_data();
@@ -56,14 +54,11 @@ private slots:
     void unusableFileNames();
     void fullDisk_data();
     void fullDisk();
-    void frameIsDisabledForAMoment();
     void newerClickDropsTheRequest();
     void newerClickDropsTheFile();
     void newestDrawingWaitsForThePrompt_data();
     void newestDrawingWaitsForThePrompt();
     void newerClickDropsAWaitingDrawing();
-    void closedPaneLeavesNoFile_data();
-    void closedPaneLeavesNoFile();
     void closingUnderThePrompt_data();
     void closingUnderThePrompt();
 
@@ -153,34 +148,18 @@ void DownloadTest::drawingIsInserted()
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
 
-void DownloadTest::nothingIsInserted_data()
-{
-    QTest::addColumn<QString>("failing"); // call of the host
-    QTest::addColumn<int>("result");      // of the prompt
-    QTest::addColumn<bool>("prompts");
-    for (const int result : {0, 2, 3})
-        QTest::addRow("answer %d", result) << QString() << result << true;
-    QTest::addRow("document") << "GetActiveDocument" << 1 << false;
-    QTest::addRow("command messages") << "GetCommandMessage" << 1 << false;
-    QTest::addRow("model") << "Document.GetModel" << 1 << true;
-    QTest::addRow("sketch manager") << "Model.GetSketchManager" << 1 << true;
-    QTest::addRow("prompt") << "CommandMessage.PromptForBlockInsertion" << 1 << false;
-}
-
+/// Whatever the prompt's answer is but acceptance.
 void DownloadTest::nothingIsInserted()
 {
-    QFETCH(QString, failing);
-    QFETCH(int, result);
-    QFETCH(bool, prompts);
-    m_panel->view().answerPrompts([result](const BlockPrompt&) {
-        return BlockPromptAnswer{static_cast<BlockPromptAnswer::Result>(result), {}};
-    });
-    if (!failing.isEmpty())
-        m_panel->host().answers().fail(failing, PVRESULT_False);
-    m_panel->clickPreview();
-    QTRY_VERIFY(m_panel->host().journal().lines().contains("GetCommandMessage()"));
-    QTRY_VERIFY(m_panel->files().isEmpty());
-    QCOMPARE(prompted().size(), prompts ? 1 : 0);
+    for (const int result : {0, 2, 3}) {
+        const int before = prompted().size();
+        m_panel->view().answerPrompts([result](const BlockPrompt&) {
+            return BlockPromptAnswer{static_cast<BlockPromptAnswer::Result>(result), {}};
+        });
+        m_panel->clickPreview();
+        QTRY_COMPARE(prompted().size(), before + 1);
+        QTRY_VERIFY(m_panel->files().isEmpty());
+    }
     QVERIFY(insertions().isEmpty());
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
@@ -221,16 +200,6 @@ void DownloadTest::fileNames()
     QCOMPARE(m_panel->view().prompts()[0].file, QDir::currentPath() + '/' + name);
     QVERIFY(!m_panel->view().promptedContents()[0].isEmpty()); // it was there
     QTRY_VERIFY(m_panel->files().isEmpty());
-}
-
-void DownloadTest::eachDownloadHasANumber()
-{
-    for (int i = 0; i < 3; ++i) {
-        m_panel->clickPreview();
-        QTRY_COMPARE(prompted().size(), i + 1);
-    }
-    QCOMPARE(prompted(), QStringList({"part0.dwg", "part1.dwg", "part2.dwg"}));
-    QCOMPARE(g_downloadCounter, 3);
 }
 
 void DownloadTest::formerFilesGo()
@@ -333,27 +302,6 @@ void DownloadTest::fullDisk()
     QVERIFY(m_panel->boxTexts().isEmpty());
 }
 
-void DownloadTest::frameIsDisabledForAMoment()
-{
-    class Watch : public QObject
-    {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() == QEvent::EnabledChange)
-                states.append(qobject_cast<QWidget*>(watched)->isEnabled());
-            return false;
-        }
-        QList<bool> states;
-    } watch;
-    m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame")->installEventFilter(&watch);
-    m_panel->service().setReply(DrawingPath, pictureReply(Drawing).held());
-    m_panel->clickPreview();
-    QTRY_COMPARE(m_panel->service().heldCount(), 1);
-    QCOMPARE(watch.states, QList<bool>({false, true})); // long before the Drawing is there
-    QVERIFY(m_panel->container()->isAncestorOf(QApplication::focusWidget())); // nor has the focus gone
-}
-
 void DownloadTest::newerClickDropsTheRequest()
 {
     m_panel->service().enqueue(
@@ -375,6 +323,7 @@ void DownloadTest::newerClickDropsTheFile()
     m_panel->clickPreview();
     QTRY_COMPARE(m_panel->files(), QStringList("part0.dwg"));
     QTRY_COMPARE(m_panel->service().heldCount(), 1);
+    QVERIFY(m_panel->container()->isAncestorOf(QApplication::focusWidget())); // though the page was disabled
     m_panel->clickPreview();
     QCOMPARE(m_panel->files(), QStringList()); // at once
     QTRY_COMPARE(prompted(), QStringList("part1.dwg"));
@@ -435,33 +384,6 @@ void DownloadTest::newerClickDropsAWaitingDrawing()
     m_panel->service().releaseAll();
     QTRY_COMPARE(prompted(), QStringList({"part0.dwg", "part2.dwg"}));
     QCOMPARE(m_panel->view().promptedContents()[1], Drawing);
-}
-
-void DownloadTest::closedPaneLeavesNoFile_data()
-{
-    QTest::addColumn<bool>("requesting");
-    QTest::addRow("while the drawing is made") << true;
-    QTest::addRow("while it comes") << false;
-}
-
-void DownloadTest::closedPaneLeavesNoFile()
-{
-    QFETCH(bool, requesting);
-    if (requesting)
-        m_panel->service().setReply(
-            DownloadOperationName,
-            ScriptedReply::result(DownloadOperationName, addressOf(DrawingPath)).held());
-    else
-        m_panel->service().setReply(DrawingPath, pictureReply(Drawing).heldAfter(5));
-    m_panel->clickPreview();
-    QTRY_COMPARE(m_panel->service().heldCount(), 1);
-    QCOMPARE(m_panel->files().size(), requesting ? 0 : 1);
-    m_panel->closePane();
-    QVERIFY(m_panel->files().isEmpty());
-    m_panel->service().releaseAll();
-    QTRY_COMPARE(m_panel->service().openConnections(), 0);
-    QVERIFY(m_panel->host().journal().lines().isEmpty());
-    QVERIFY(m_panel->files().isEmpty());
 }
 
 void DownloadTest::closingUnderThePrompt_data()

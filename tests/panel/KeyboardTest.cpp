@@ -4,7 +4,6 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
 
@@ -37,7 +36,6 @@ private slots:
 
     void tabReachesEverything_data();
     void tabReachesEverything();
-    void panelPassesItsFocusOn();
     void wholeWayByKeys();
     void iconsHaveNames();
 
@@ -119,14 +117,6 @@ void KeyboardTest::tabReachesEverything()
     controls.removeDuplicates();
     backwards.removeDuplicates();
     QCOMPARE(backwards, controls);
-}
-
-void KeyboardTest::panelPassesItsFocusOn()
-{
-    auto* panel = m_panel->shown<QWidget>("PartHarbor_2DMain");
-    QCOMPARE(panel->focusPolicy(), Qt::StrongFocus);
-    panel->setFocus();
-    QVERIFY(m_panel->shown<QLineEdit>("SearchLine")->hasFocus());
 }
 
 void KeyboardTest::wholeWayByKeys()

@@ -51,7 +51,6 @@ private slots:
     void openedRowLeavesItsTable();
     void openedRowSurvivesALateReply();
     void lateThumbnailFollowsItsRow();
-    void closedPaneEndsItsRequests();
 
 private:
     QString textOf(int row, const QString& label) const
@@ -271,20 +270,6 @@ void RowsTest::lateThumbnailFollowsItsRow()
     QVERIFY(button->icon().isNull());
     m_panel->service().releaseAll();
     QTRY_VERIFY(!button->icon().isNull());
-}
-
-void RowsTest::closedPaneEndsItsRequests()
-{
-    m_panel->service().setReply("/pictures/part.png", ScriptedReply::never());
-    m_panel->showResults();
-    QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 5);
-    m_panel->openPart(0);
-    QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 6);
-    m_panel->service().setReply(SearchOperationName, ScriptedReply::never());
-    m_panel->click("pushButton");
-    QTRY_COMPARE(m_panel->service().requests(SearchOperationName).size(), 2);
-    m_panel->closePane();
-    QTRY_COMPARE(m_panel->service().openConnections(), 0);
 }
 
 QTEST_MAIN(RowsTest)

@@ -196,36 +196,32 @@ void ServiceFaultsTest::faults_data()
     QTest::addColumn<Request>("asked");
     QTest::addColumn<Spoil>("spoil");
     QTest::addColumn<Comes>("comes");
-    const auto add = [](const char* fault, const Spoil& spoil, Comes comes) {
+    const auto add = [](const char* fault, Comes comes, const Spoil& spoil) {
         for (const Request& request : allRequests())
             QTest::addRow("%s, %s", qPrintable(request.key), fault) << request << spoil << comes;
     };
     using test::TestCertificates;
-    add("slow", answering([](const ScriptedReply& good) { return good.heldAfter(5); }),
-        Comes::EverythingLater);
-    add("cut", answering(halfOf), Comes::Half);
-    add("reset", answeringAlways(ScriptedReply::reset()), Comes::Nothing);
-    add(
-        "refused",
-        [](PanelFixture& panel, const QString&, const ScriptedReply&) { panel.proxy().setRefusing(true); },
-        Comes::Nothing);
-    add("redirected", redirecting("/elsewhere"), Comes::Nothing);
-    add("redirected to another host", redirecting("https://elsewhere.test/"), Comes::Nothing);
-    add("redirected to plain HTTP", redirecting("http://catalog.test:8443/elsewhere"), Comes::Nothing);
-    add("endless", sendWithoutEnd, Comes::NoEnd);
-    add("wrong content", answeringAlways(ScriptedReply::status(200, Sorry, "text/html")), Comes::Text);
-    add("no HTTP", answeringAlways(ScriptedReply::raw("?")), Comes::Nothing);
-    add("fault", answeringAlways(faultReply()), Comes::Fault);
-    add("untrusted certificate", showing(&TestCertificates::untrusted), Comes::Nothing);
-    add("expired certificate", showing(&TestCertificates::expired), Comes::Nothing);
-    add("certificate of another name", showing(&TestCertificates::wrongName), Comes::Nothing);
-    add("closed after the reply",
-        answering([](const ScriptedReply& good) { return ScriptedReply::raw(good.bytes()); }),
-        Comes::Everything);
-    add("HTTP/1.0", answering([](const ScriptedReply& good) {
+    add("slow", Comes::EverythingLater,
+        answering([](const ScriptedReply& good) { return good.heldAfter(5); }));
+    add("cut", Comes::Half, answering(halfOf));
+    add("reset", Comes::Nothing, answeringAlways(ScriptedReply::reset()));
+    add("refused", Comes::Nothing,
+        [](PanelFixture& panel, const QString&, const ScriptedReply&) { panel.proxy().setRefusing(true); });
+    add("redirected", Comes::Nothing, redirecting("/elsewhere"));
+    add("redirected to another host", Comes::Nothing, redirecting("https://elsewhere.test/"));
+    add("redirected to plain HTTP", Comes::Nothing, redirecting("http://catalog.test:8443/elsewhere"));
+    add("endless", Comes::NoEnd, sendWithoutEnd);
+    add("wrong content", Comes::Text, answeringAlways(ScriptedReply::status(200, Sorry, "text/html")));
+    add("no HTTP", Comes::Nothing, answeringAlways(ScriptedReply::raw("?")));
+    add("fault", Comes::Fault, answeringAlways(faultReply()));
+    add("untrusted certificate", Comes::Nothing, showing(&TestCertificates::untrusted));
+    add("expired certificate", Comes::Nothing, showing(&TestCertificates::expired));
+    add("certificate of another name", Comes::Nothing, showing(&TestCertificates::wrongName));
+    add("closed after the reply", Comes::Everything,
+        answering([](const ScriptedReply& good) { return ScriptedReply::raw(good.bytes()); }));
+    add("HTTP/1.0", Comes::Everything, answering([](const ScriptedReply& good) {
             return ScriptedReply::raw("HTTP/1.0 200 OK\r\nContent-Type: text/xml\r\n\r\n" + good.body());
-        }),
-        Comes::Everything);
+        }));
 }
 
 void ServiceFaultsTest::faults()

@@ -1,10 +1,7 @@
 #include "service/CookieJar.h"
 #include "tests/support/FatalWarnings.h"
-#include "tests/support/ScriptedCatalog.h"
 
 #include <QDataStream>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -15,7 +12,7 @@
 namespace
 {
 
-const QUrl Site("https://" + test::ScriptedCatalog::host() + "/ContentWS/");
+const QUrl Site("https://catalog.test:8443/ContentWS/");
 
 QDateTime inDays(int days)
 {
@@ -78,12 +75,10 @@ private slots:
     void sitesThatMaySetCookies_data();
     void sitesThatMaySetCookies();
     void timeLimit();
-    void settings_data();
     void settings();
     void emptying();
     void purging();
     void savedForm();
-    void exchangeWithAService();
 
 private:
     QTemporaryDir m_settingsFolder;
@@ -172,46 +167,36 @@ void CookieJarTest::timeLimit()
     QVERIFY(jar.allCookies().at(2).isSessionCookie());
 }
 
-void CookieJarTest::settings_data()
-{
-    QTest::addColumn<QString>("acceptCookies"); // null for none
-    QTest::addColumn<QString>("keepCookiesUntil");
-    QTest::addColumn<bool>("known");
-    const auto add = [](const char* acceptCookies, const char* keepCookiesUntil, bool known) {
-        QTest::addRow("%s", acceptCookies) << QString(acceptCookies) << QString(keepCookiesUntil) << known;
-    };
-    QTest::addRow("none") << QString() << QString() << false;
-    add("AcceptAlways", "KeepUntilExpire", true);
-    add("AcceptNever", "KeepUntilExit", true);
-    add("AcceptOnlyFromSitesNavigatedTo", "KeepUntilTimeLimit", true);
-    add("acceptalways", "KeepForever", false);
-    add("0", "1", false);
-}
-
+/// What is missing or unknown gives the policies from the start.
 void CookieJarTest::settings()
 {
-    QFETCH(QString, acceptCookies);
-    QFETCH(QString, keepCookiesUntil);
-    QFETCH(bool, known);
-    if (!acceptCookies.isNull()) {
-        QSettings().setValue("cookies/acceptCookies", acceptCookies);
-        QSettings().setValue("cookies/keepCookiesUntil", keepCookiesUntil);
+    const QStringList start{"AcceptOnlyFromSitesNavigatedTo", "KeepUntilExpire"};
+    const QPair<QStringList, QStringList> policies[] = {
+        {{}, start},
+        {{"AcceptAlways", "KeepUntilExpire"}, {"AcceptAlways", "KeepUntilExpire"}},
+        {{"AcceptNever", "KeepUntilExit"}, {"AcceptNever", "KeepUntilExit"}},
+        {{start[0], "KeepUntilTimeLimit"}, {start[0], "KeepUntilTimeLimit"}},
+        {{"acceptalways", "KeepForever"}, start},
+        {{"0", "1"}, start},
+    };
+    for (const auto& [stored, read] : policies) {
+        if (!stored.isEmpty()) {
+            QSettings().setValue("cookies/acceptCookies", stored[0]);
+            QSettings().setValue("cookies/keepCookiesUntil", stored[1]);
+        }
+        QList<bool> emptyAtTheSignal; // which comes from a jar that goes, too
+        OpenJar jar;
+        jar.setAcceptPolicy(CookieJar::AcceptNever);
+        jar.setKeepPolicy(CookieJar::KeepUntilTimeLimit);
+        jar.setAllCookies({cookie("a")});
+        connect(&jar, &CookieJar::cookiesChanged, this,
+                [&] { emptyAtTheSignal.append(jar.allCookies().isEmpty()); });
+        QVERIFY(QMetaObject::invokeMethod(&jar, "loadSettings"));
+        QCOMPARE(emptyAtTheSignal, QList<bool>{jar.allCookies().isEmpty()});
+        QCOMPARE(jar.allCookies().isEmpty(), read[1] == "KeepUntilExit");
+        QCOMPARE(QVariant::fromValue(jar.acceptPolicy()).toString(), read[0]);
+        QCOMPARE(QVariant::fromValue(jar.keepPolicy()).toString(), read[1]);
     }
-    OpenJar jar;
-    jar.setAcceptPolicy(CookieJar::AcceptNever);
-    jar.setKeepPolicy(CookieJar::KeepUntilTimeLimit);
-    jar.setAllCookies({cookie("a")});
-    const QSignalSpy changed(&jar, &CookieJar::cookiesChanged);
-    bool emptyAtTheSignal = false;
-    connect(&jar, &CookieJar::cookiesChanged, this, [&] { emptyAtTheSignal = jar.allCookies().isEmpty(); });
-    QVERIFY(QMetaObject::invokeMethod(&jar, "loadSettings"));
-    QCOMPARE(emptyAtTheSignal, keepCookiesUntil == "KeepUntilExit");
-    QCOMPARE(QVariant::fromValue(jar.acceptPolicy()).toString(),
-             known ? acceptCookies : QString("AcceptOnlyFromSitesNavigatedTo"));
-    QCOMPARE(QVariant::fromValue(jar.keepPolicy()).toString(),
-             known ? keepCookiesUntil : QString("KeepUntilExpire"));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(jar.allCookies().isEmpty(), keepCookiesUntil == "KeepUntilExit");
 }
 
 /// At a call, and under one policy at the end of the jar.
@@ -281,28 +266,6 @@ void CookieJarTest::savedForm()
     };
     for (const auto& [saved, count] : strange)
         QVERIFY2(cookiesIn(saved).size() == count, saved.toHex(' '));
-}
-
-/// The jar installed on a network manager.
-void CookieJarTest::exchangeWithAService()
-{
-    test::ScriptedCatalog catalog;
-    catalog.service().setReply(Site.path(), test::ScriptedReply::xml("<x/>")
-                                                .withHeader("Set-Cookie", "session=1; Path=/")
-                                                .withHeader("Set-Cookie", "lasting=2; Max-Age=31536000")
-                                                .withHeader("Set-Cookie", "foreign=3; Domain=else.test"));
-    QNetworkAccessManager manager;
-    auto* jar = new OpenJar;
-    manager.setCookieJar(jar); // which takes ownership
-    for (const auto policy : {CookieJar::AcceptNever, CookieJar::AcceptOnlyFromSitesNavigatedTo,
-                              CookieJar::AcceptOnlyFromSitesNavigatedTo}) {
-        jar->setAcceptPolicy(policy);
-        const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(Site)));
-        QTRY_VERIFY(reply->isFinished());
-        QCOMPARE(reply->error(), QNetworkReply::NoError);
-    }
-    QCOMPARE(catalog.service().requests().at(1).header("Cookie"), QByteArray());
-    QCOMPARE(catalog.service().requests().at(2).header("Cookie"), QByteArray("lasting=2; session=1"));
 }
 
 QTEST_GUILESS_MAIN(CookieJarTest)

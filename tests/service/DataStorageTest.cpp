@@ -33,7 +33,7 @@ private:
 void DataStorageTest::theLastKeyToArriveStays()
 {
     test::ScriptedService& service = m_fixture->service();
-    m_fixture->scriptSession("session", {});
+    service.setReply("ServiceLogin", ScriptedReply::result("ServiceLogin", "session"));
     for (const QString key : {"first", "second", ""})
         service.enqueue(KeyOperation, ScriptedReply::result(KeyOperation, key).held());
     DataStorage first;

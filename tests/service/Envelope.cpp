@@ -52,18 +52,18 @@ Envelope Envelope::read(const QByteArray& bytes)
     return envelope;
 }
 
-QString layoutFault(const QByteArray& xml, int width, const QByteArray& lineEnd)
+QString layoutFault(const QByteArray& xml)
 {
     static const QRegularExpression startTag("<\\w[^>]*(?<!/)>");
     static const QRegularExpression endTag("</");
     static const QRegularExpression firstOther("[^ ]|$");
     int depth = 0;
     int number = 0;
-    for (const QString& line : QString::fromUtf8(xml).split(QString::fromLatin1(lineEnd))) {
+    for (const QString& line : QString::fromUtf8(xml).split('\n')) {
         ++number;
         const QString markup = line.trimmed();
         const int level = depth - (markup.startsWith("</") ? 1 : 0);
-        if (line.indexOf(firstOther) != level * width)
+        if (line.indexOf(firstOther) != level)
             return QString("line %1: '%2'").arg(number).arg(line);
         depth += line.count(startTag) - line.count(endTag);
     }

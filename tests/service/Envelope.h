@@ -22,8 +22,8 @@ struct Envelope {
     static Envelope read(const QByteArray& xml);
 };
 
-/// @return the first line that is not indented by @p width blanks per level, with its number; empty when all
-///         are. One element, or one of its tags, to a line.
-QString layoutFault(const QByteArray& xml, int width, const QByteArray& lineEnd);
+/// @return the first line that is not indented by a blank per level, with its number; empty when all are. One
+///         element, or one of its tags, to a line.
+QString layoutFault(const QByteArray& xml);
 
 } // namespace test

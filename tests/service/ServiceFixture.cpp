@@ -15,11 +15,4 @@ ServiceFixture::ServiceFixture()
     CurrentPageNumber = "1";
 }
 
-void ServiceFixture::scriptSession(const QString& sessionId, const QString& key)
-{
-    service().setReply("ServiceLogin", ScriptedReply::result("ServiceLogin", sessionId));
-    service().setReply("GenerateApiKeyByDescription",
-                       ScriptedReply::result("GenerateApiKeyByDescription", key));
-}
-
 } // namespace test

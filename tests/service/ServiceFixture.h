@@ -25,9 +25,6 @@ public:
     /// All boxes that opened, oldest first.
     const QVector<SeenMessageBox>& boxes() const { return m_boxes.boxes(); }
 
-    /// Answers the two operations of a bootstrap.
-    void scriptSession(const QString& sessionId, const QString& key);
-
 private:
     FatalWarnings m_warnings;
     ScriptedCatalog m_catalog;

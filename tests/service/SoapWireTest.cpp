@@ -5,8 +5,8 @@
 #include "service/SessionValues.h"
 #include "tests/service/Envelope.h"
 #include "tests/service/ServiceFixture.h"
+#include "tests/support/CannedReplies.h"
 
-#include <QFile>
 #include <QGridLayout>
 #include <QTest>
 
@@ -54,12 +54,6 @@ QStringList headOf(const test::RecordedRequest& request)
     return lines;
 }
 
-ScriptedReply configurationReply(const QString& name)
-{
-    return ScriptedReply::xml("<r><IConfiguration><Name>" + name.toHtmlEscaped().toUtf8() +
-                              "</Name></IConfiguration></r>");
-}
-
 } // namespace
 
 /// What goes over the wire, sent by the add-in's own senders.
@@ -73,7 +67,6 @@ private slots:
 
     void requests_data();
     void requests();
-    void templates();
 
 private:
     std::unique_ptr<test::ServiceFixture> m_fixture;
@@ -109,7 +102,7 @@ void SoapWireTest::requests()
     service.setReply("GenerateApiKeyByDescription",
                      ScriptedReply::result("GenerateApiKeyByDescription", key));
     service.setReply("UserLogin", ScriptedReply::result("UserLogin", token));
-    service.setReply("GetConfigInfo", configurationReply(value));
+    service.setReply("GetConfigInfo", test::configurationsReply({value}));
     service.setReply("/ContentWS/ExternalWS.asmx", ScriptedReply::never());
 
     DataStorage session;
@@ -153,44 +146,20 @@ void SoapWireTest::requests()
         QCOMPARE(envelope.fault, QString());
         QCOMPARE(envelope.version, QString("1.0"));
         QCOMPARE(envelope.encoding, QString("utf-8"));
-        QCOMPARE(envelope.prefixes.size(), 3);
+        QCOMPARE(envelope.prefixes,
+                 (QMap<QString, QString>{{"xsi", "http://www.w3.org/2001/XMLSchema-instance"},
+                                         {"xsd", "http://www.w3.org/2001/XMLSchema"},
+                                         {"soap", "http://schemas.xmlsoap.org/soap/envelope/"}}));
         QCOMPARE(envelope.operation, QString(expected.operation));
         QCOMPARE(envelope.operationNamespace, ContentNamespace);
         QCOMPARE(envelope.parameters, parameters);
         if (!value.contains('\n'))
-            QCOMPARE(test::layoutFault(request.body, 1, "\n"), QString());
+            QCOMPARE(test::layoutFault(request.body), QString());
     }
     // The bootstrap's two replies; nothing else is written, least of all a password or token.
     QCOMPARE(m_fixture->warnings().debugLines().size(), 2);
     for (const QString& line : m_fixture->warnings().debugLines())
         QVERIFY2(line.startsWith("data \"<?xml"), qPrintable(line));
-}
-
-/// What is sent shows what they hold; their exact sizes are compared with those of the bundle in the add-in.
-void SoapWireTest::templates()
-{
-    const QPair<QString, QString> templates[] = {{"TokenXMLFile", "ServiceLogin"},
-                                                 {"APIKeyXML", "GenerateApiKeyByDescription"},
-                                                 {"Login", "UserLogin"},
-                                                 {"Searchcatalog", "SimpleSearchAcrossCatalogs"},
-                                                 {"ModelDetail", "GetModelDetail"},
-                                                 {"ConfigInfo", "GetConfigInfo"},
-                                                 {"ConfigParams", "GetConfigParams"},
-                                                 {"download", "GetDownload2D"}};
-    for (const auto& [name, operation] : templates) {
-        QFile file(":/3DPH/" + name + ".xml");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
-        QCOMPARE(test::layoutFault(bytes, 2, "\r\n"), QString());
-        const auto envelope = test::Envelope::read(bytes);
-        QCOMPARE(envelope.fault, QString());
-        QCOMPARE(envelope.prefixes,
-                 (QMap<QString, QString>{{"xsi", "http://www.w3.org/2001/XMLSchema-instance"},
-                                         {"xsd", "http://www.w3.org/2001/XMLSchema"},
-                                         {"soap", "http://schemas.xmlsoap.org/soap/envelope/"}}));
-        QCOMPARE(envelope.operation, operation);
-        QCOMPARE(envelope.operationNamespace, ContentNamespace);
-    }
 }
 
 QTEST_MAIN(SoapWireTest)
