@@ -84,6 +84,7 @@ void TableItem::Iamgedata(QNetworkReply* pReply)
     // No larger than the sharpest screen shows it.
     m_form->iconpushButton->setIcon(QIcon(takePicture(pReply, IconSize * qApp->devicePixelRatio())));
     m_form->iconpushButton->setIconSize(IconSize);
+    m_form->gridLayout_5->activate(); // the button grows before it is painted
 }
 
 void TableItem::Preview()

@@ -30,11 +30,22 @@ double growth(PaneRun& run, int repetitions, const std::function<void()>& transi
     return double(settledHeap(run) - before) / repetitions;
 }
 
-/// Back from the page that was left leaves one more main panel.
-void leaveMainPanel(PaneRun& run, QWidget* leftResultsPage)
+/// Leaves a results page and the main panel that it was asked for from.
+void searchAndGoBack(PaneRun& run)
 {
-    run.user().page()->hide();
-    QMetaObject::invokeMethod(leftResultsPage, "OnBackButtonClick");
+    run.search(Term);
+    run.settle();
+    run.backToMainPanel();
+    run.settle();
+}
+
+/// Leaves the main panel alone.
+void searchAndForget(PaneRun& run)
+{
+    run.search(Term);
+    run.settle();
+    const std::unique_ptr<QWidget> resultsPage(run.user().page());
+    run.backToMainPanel();
     run.settle();
 }
 
@@ -42,28 +53,21 @@ void leaveMainPanel(PaneRun& run, QWidget* leftResultsPage)
 
 PageCosts measurePageCosts(PaneRun& run, int repetitions)
 {
-    const double searchAndBack = growth(run, repetitions, [&run] {
-        run.search(Term);
-        run.backToMainPanel();
-        run.settle();
-    });
+    PageCosts costs;
+    costs.mainPanel = growth(run, repetitions, [&run] { searchAndForget(run); });
+    costs.resultsPage = growth(run, repetitions, [&run] { searchAndGoBack(run); }) - costs.mainPanel;
 
     run.search(Term);
     run.settle();
-    QWidget* const leftResultsPage = run.user().page();
     const double openAndBack = growth(run, repetitions, [&run] {
         run.openPart(0);
         run.settle();
         run.backToResults();
         run.settle();
     });
-
+    costs.detailPage = openAndBack - costs.resultsPage;
     run.backToMainPanel();
     run.settle();
-    PageCosts costs;
-    costs.mainPanel = growth(run, repetitions, [&] { leaveMainPanel(run, leftResultsPage); });
-    costs.resultsPage = searchAndBack - costs.mainPanel;
-    costs.detailPage = openAndBack - costs.resultsPage;
     return costs;
 }
 
