@@ -31,8 +31,6 @@
 #include <functional>
 #include <memory>
 
-Q_DECLARE_METATYPE(std::function<void()>)
-
 using devhost::BlockPromptAnswer;
 using devhost::MainWindow;
 
@@ -65,13 +63,8 @@ private slots:
     void init();
     void cleanup();
 
-    void clickPlacesTheBlock();
     void placementCanBeTyped();
-    void promptIsCancelled_data();
-    void promptIsCancelled();
-    void windowMayEndDuringThePrompt();
-    void unreadableFileIsPromptedForAsACross();
-    void promptNeedsADrawing();
+    void promptsAreCancelled();
     void commandsAreRunByName();
     void keysGoToTheCommandLineOrIntoTextFields();
     void blocksAreSelectedErasedAndBroughtBack();
@@ -187,33 +180,6 @@ QString MainWindowTest::drawingFile(const QByteArray& bytes)
     return path;
 }
 
-void MainWindowTest::clickPlacesTheBlock()
-{
-    devhost::DrawingArea& area = m_window->drawingArea();
-    const QPoint pixel = area.toPixel({12.0, 7.0});
-    const Placement placed = place(m_file, [&] {
-        QVERIFY(area.isBlockAtCursor());
-        QCOMPARE(m_window->commandLine().prompt(),
-                 QString("Specify insertion point or [Scale/Rotate/Cancel]:"));
-        QTest::mouseMove(&area, pixel);
-        QTest::mouseClick(&area, Qt::LeftButton, Qt::NoModifier, pixel);
-    });
-    QVERIFY(placed.isAccepted());
-    QCOMPARE(area.toPixel({placed.x, placed.y}), pixel);
-    QCOMPARE(lastLine(),
-             QString("Block part0 inserted at %1,%2.").arg(placed.x, 0, 'f', 4).arg(placed.y, 0, 'f', 4));
-    QVERIFY(!area.isBlockAtCursor());
-    QVERIFY(m_window->currentPrompt() == nullptr);
-    QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
-
-    QCOMPARE(blocks().size(), std::size_t(1));
-    QCOMPARE(blocks().front()->name(), QString("part0"));
-    const QPoint onEdge = area.toPixel({placed.x - 2.0, placed.y + 1.0});
-    const QImage image = area.grab(QRect(onEdge - QPoint(1, 1), QSize(3, 3))).toImage();
-    QVERIFY(qGray(image.pixel(0, 1)) < 100 ||
-            qGray(image.pixel(1, 1)) < 100); // The outline is black on light.
-}
-
 void MainWindowTest::placementCanBeTyped()
 {
     const Placement placed = place(m_file, [&] {
@@ -229,74 +195,48 @@ void MainWindowTest::placementCanBeTyped()
         QTest::keyClick(m_window->commandLine().input(), Qt::Key_Enter);
     });
     QVERIFY(placed.isAccepted());
-    QCOMPARE(placed.x, 12.5);
-    QCOMPARE(placed.y, -3.0);
-    QCOMPARE(placed.z, 2.0);
-    QCOMPARE(placed.scaleX, 2.5);
-    QCOMPARE(placed.scaleZ, 2.5);
-    QVERIFY(qAbs(placed.rotation - 1.5707963) < 1e-6);
-    QCOMPARE(blocks().front()->placement().x, 12.5);
+    const devhost::BlockPlacement& placement = blocks().front()->placement();
+    QCOMPARE(placement.x, 12.5);
+    QCOMPARE(placement.y, -3.0);
+    QCOMPARE(placement.z, 2.0);
+    QCOMPARE(placement.scaleX, 2.5);
+    QCOMPARE(placement.scaleZ, 2.5);
+    QVERIFY(qAbs(placement.rotation - 1.5707963) < 1e-6);
+    QCOMPARE(lastLine(), QString("Block part0 inserted at 12.5000,-3.0000."));
 }
 
-void MainWindowTest::promptIsCancelled_data()
+void MainWindowTest::promptsAreCancelled()
 {
-    QTest::addColumn<std::function<void()>>("user");
-    const auto row = [](const char* name, const std::function<void()>& user) { QTest::newRow(name) << user; };
-    row("Esc over the drawing", [this] { QTest::keyClick(&m_window->drawingArea(), Qt::Key_Escape); });
-    row("Esc in the command line", [this] {
-        m_window->commandLine().input()->setFocus();
-        QTest::keyClick(m_window->commandLine().input(), Qt::Key_Escape);
-    });
-    row("Esc elsewhere in the window", [this] {
-        auto* text = m_window->findChild<QPlainTextEdit*>("commandHistory");
-        text->setFocus();
-        QTest::keyClick(text, Qt::Key_Escape);
-    });
-    row("typed", [this] { type("cancel"); });
-    row("window closed", [this] { m_window->close(); });
-    row("new drawing", [this] { m_window->runCommand("new"); });
-    row("drawing closed", [this] { m_window->runCommand("CLOSE"); });
-}
+    const auto escapeIn = [this](QWidget* widget) {
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Escape);
+    };
+    const QVector<std::function<void()>> ways{
+        [&] { escapeIn(&m_window->drawingArea()); },
+        [&] { escapeIn(m_window->commandLine().input()); },
+        [&] { escapeIn(m_window->findChild<QPlainTextEdit*>("commandHistory")); },
+        [&] { type("cancel"); },
+        [&] { m_window->runCommand("new"); },
+        [&] { m_window->runCommand("CLOSE"); },
+        [&] { m_window->close(); },
+    };
+    const auto isCancelled = [this](const std::function<void()>& user) {
+        const Placement placed = place(m_file, user);
+        return int(placed.result) == BlockPromptAnswer::Cancelled && placed.x == 0.0;
+    };
+    for (const auto& user : ways) {
+        QVERIFY(isCancelled(user));
+        QVERIFY(!m_window->drawingArea().isBlockAtCursor());
+        QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
+        QVERIFY(m_window->currentPrompt() == nullptr);
+    }
 
-void MainWindowTest::promptIsCancelled()
-{
-    QFETCH(const std::function<void()>, user);
-    const Placement placed = place(m_file, user);
-    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
-    QCOMPARE(placed.x, 0.0);
-    QVERIFY(!m_window->drawingArea().isBlockAtCursor());
-    QCOMPARE(m_window->commandLine().prompt(), QString("Command:"));
-    QVERIFY(m_window->currentPrompt() == nullptr);
-}
-
-void MainWindowTest::windowMayEndDuringThePrompt()
-{
-    const Placement placed = place(m_file, [&] { m_window.reset(); });
-    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
-}
-
-void MainWindowTest::unreadableFileIsPromptedForAsACross()
-{
-    const QString file = drawingFile("noise");
-    const QString line = "Cannot read part0.dwg: it is not a DWG file.";
-    const Placement placed = place(file, [&] {
-        QCOMPARE(m_window->commandLine().history().count(line), 1);
-        QVERIFY(m_window->drawingArea().isBlockAtCursor());
-        type("1,1");
-    });
-    QVERIFY(placed.isAccepted());
-    QVERIFY(blocks().empty());
-    QCOMPARE(m_window->commandLine().history().last(), line + " No block was inserted.");
-}
-
-void MainWindowTest::promptNeedsADrawing()
-{
+    m_window->show();
     m_window->host().closeActiveDocument();
-    const Placement placed = place(m_file, [] {});
-    QCOMPARE(int(placed.result), int(BlockPromptAnswer::Cancelled));
-    const QStringList said = m_window->commandLine().history();
-    QVERIFY(said.contains("The add-in has asked for the drawing, and none is open: NEW opens one."));
-    QCOMPARE(said.last(), QString("No drawing is open to place a block in."));
+    QVERIFY(isCancelled([] {}));
+    QCOMPARE(lastLine(), QString("No drawing is open to place a block in."));
+    m_window->host().newDocument();
+    QVERIFY(isCancelled([this] { m_window.reset(); })); // Its end must not be awaited in vain.
 }
 
 void MainWindowTest::commandsAreRunByName()
@@ -373,6 +313,8 @@ void MainWindowTest::blocksAreSelectedErasedAndBroughtBack()
     QVERIFY(place(m_file, [&] { type("2,2"); }).isAccepted());
     QVERIFY(place(m_file, [&] { type("12,7"); }).isAccepted());
     devhost::DrawingArea& area = m_window->drawingArea();
+    const QImage onEdge = area.grab(QRect(area.toPixel({4.0, 3.0}) - QPoint(1, 0), QSize(3, 1))).toImage();
+    QVERIFY(std::min(qGray(onEdge.pixel(0, 0)), qGray(onEdge.pixel(1, 0))) < 100); // Black on light.
     const auto click = [&](const QPointF& model, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::mouseClick(&area, Qt::LeftButton, modifiers, area.toPixel(model));
         return area.selection().size();
@@ -441,18 +383,12 @@ void MainWindowTest::drawingsAreOpenedAndCopied()
 
 void MainWindowTest::userCommandShowsOnMenuAndRibbon()
 {
-    QPixmap pixmap(32, 32);
-    pixmap.fill(Qt::red);
-    const QString icon = m_folder.filePath("icon.png");
-    QVERIFY(pixmap.save(icon));
-
     int runs = 0;
     registerCommand(L"PARTS", &runs);
     devhost::HostApplication& host = m_window->host();
-    const pvString iconPath(icon.toStdWString().c_str());
     pvUserCommand_c* userCommand = nullptr;
-    host.CreateUserCommand(AppID, L"PARTS", L"^C^CPARTS", L"Finds parts", iconPath, iconPath, pvUIState_e(2),
-                           nullptr, &userCommand);
+    host.CreateUserCommand(AppID, L"PARTS", L"^C^CPARTS", L"Finds parts", L"", L"", pvUIState_e(2), nullptr,
+                           &userCommand);
     pvString id;
     userCommand->GetID(&id);
     host.menus().objects().at(4)->InsertMenuItem(AppID, pvMenuItemType_e(2), 3, L"Parts entry", id, nullptr);
@@ -461,25 +397,18 @@ void MainWindowTest::userCommandShowsOnMenuAndRibbon()
                                                                       L"Parts button", id, nullptr);
 
     auto* menu = m_window->findChild<QMenu*>("ID_Import");
-    QVERIFY(menu != nullptr);
-    QAction* entry = menu->actions().value(3);
-    QCOMPARE(entry->text(), QString("Parts entry"));
-    QCOMPARE(entry->icon().pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
+    QCOMPARE(menu->actions().value(3)->text(), QString("Parts entry"));
+    menu->actions().value(3)->trigger();
     auto* button = m_window->findChild<QToolButton*>("UserCommand_PARTS");
-    QVERIFY(button != nullptr);
     QCOMPARE(button->text(), QString("Parts button"));
     QCOMPARE(button->toolTip(), QString("Finds parts"));
-
-    entry->trigger();
-    button->click();
-    QCOMPARE(runs, 2);
     // Its macro gives up what is going on.
     QCOMPARE(int(place(m_file, [&] { button->click(); }).result), int(BlockPromptAnswer::Cancelled));
-    QCOMPARE(runs, 3);
+    QCOMPARE(runs, 2);
 
     host.RemoveUserInterface(AppID);
     QVERIFY(m_window->findChild<QToolButton*>("UserCommand_PARTS") == nullptr);
-    QCOMPARE(m_window->findChild<QMenu*>("ID_Import")->actions().size(), 5);
+    QCOMPARE(menu->actions().size(), 5);
     QCOMPARE(m_window->findChild<QPlainTextEdit*>("journalText")->toPlainText(),
              host.journal().lines().join('\n'));
 }
