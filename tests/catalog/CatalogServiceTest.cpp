@@ -60,8 +60,7 @@ private slots:
     void init() { m_warnings = std::make_unique<test::FatalWarnings>(); }
     void cleanup() { m_warnings.reset(); }
 
-    void everyOperationIsCarriedOut();
-    void wrongCredentialsGiveAnEmptyToken();
+    void keysAndParametersAreGiven();
     void searchesComeInPages();
     void drawingsAreKeptForDownload();
     void drawingsHaveSafeNames();
@@ -77,47 +76,25 @@ private:
     std::unique_ptr<test::FatalWarnings> m_warnings;
 };
 
-void CatalogServiceTest::everyOperationIsCarriedOut()
+void CatalogServiceTest::keysAndParametersAreGiven()
 {
-    const devcatalog::Part& part = m_fixture->catalog().parts().front();
     const QByteArray key = m_fixture->value("apiKey");
     QVERIFY(QRegularExpression("^[0-9a-f]{32}$").match(key).hasMatch());
     QVERIFY(key != m_fixture->value("sessionId") && key != m_fixture->value("userToken"));
-
-    const HttpAnswer found = m_fixture->post(m_fixture->request("SimpleSearchAcrossCatalogs"));
-    QCOMPARE(found.text("ActualItemCount").toInt(), int(m_fixture->catalog().search(part.name).size()));
-    const QDomElement item = elements(found, "ISearchItem").value(0);
-    QVERIFY(item.childNodes().count() >= 17);
-    QCOMPARE(child(item, 0), " " + QString::fromUtf8(m_fixture->value("modelName")));
-    QCOMPARE(child(item, 6), QString::fromStdString(part.description));
-    const HttpAnswer picture = m_fixture->client().get("/" + child(item, 7));
-    QCOMPARE(picture.contentType, QByteArray("image/png"));
-    QCOMPARE(QImage::fromData(picture.body, "PNG").size(), QSize(256, 256));
-    QCOMPARE(child(item, 16), QString::fromUtf8(m_fixture->value("supplierName")));
-
-    const QVector<QDomElement> configurations =
-        elements(m_fixture->post(m_fixture->request("GetConfigInfo")), "IConfiguration");
-    QCOMPARE(configurations.size(), int(part.configurations.size()));
-    QCOMPARE(child(configurations.first(), 0), QString::fromUtf8(m_fixture->value("configName")));
-
-    const QVector<QDomElement> parameters =
-        elements(m_fixture->post(m_fixture->request("GetConfigParams")), "IInputParameter");
-    QCOMPARE(parameters.size(), int(part.configurations.front().parameters.size()));
-    for (int index = 0; index < parameters.size(); ++index) {
-        const devcatalog::Parameter& expected = part.configurations.front().parameters.at(std::size_t(index));
-        QCOMPARE(parameters.at(index).childNodes().count(), 2);
-        QVERIFY(parameters.at(index).hasAttribute("xsi:type"));
-        QCOMPARE(child(parameters.at(index), 0), QString::fromStdString(expected.name + expected.unit));
-        QCOMPARE(child(parameters.at(index), 1), QString::fromStdString(expected.value));
-    }
-}
-
-void CatalogServiceTest::wrongCredentialsGiveAnEmptyToken()
-{
     const SoapRequest login = m_fixture->request("UserLogin");
     for (const char* element : {"userId", "password"})
         for (const QByteArray& text : {QByteArray("Demo"), QByteArray()})
             QCOMPARE(m_fixture->carriedOut(login.with(element, text)), QString(""));
+
+    const auto& expected = m_fixture->catalog().parts().front().configurations.front().parameters;
+    const auto given = elements(m_fixture->post(m_fixture->request("GetConfigParams")), "IInputParameter");
+    QCOMPARE(given.size(), int(expected.size()));
+    for (int index = 0; index < given.size(); ++index) {
+        const devcatalog::Parameter& parameter = expected.at(std::size_t(index));
+        QVERIFY(given.at(index).hasAttribute("xsi:type"));
+        QCOMPARE(child(given.at(index), 0), QString::fromStdString(parameter.name + parameter.unit));
+        QCOMPARE(child(given.at(index), 1), QString::fromStdString(parameter.value));
+    }
 }
 
 void CatalogServiceTest::searchesComeInPages()
@@ -174,12 +151,11 @@ void CatalogServiceTest::drawingsHaveSafeNames()
         QVERIFY2(safe.match(QString::fromStdString(file)).hasMatch(), file.c_str());
     }
     const std::string oldest = "/" + site.addDrawing(part, configuration, view);
-    for (int later = 0; later < 10; ++later)
-        site.addDrawing(part, configuration, view);
-    QCOMPARE(site.get(oldest).status, 200);
-    for (int later = 0; later < 100; ++later)
-        site.addDrawing(part, configuration, view);
-    QCOMPARE(site.get(oldest).status, 404);
+    for (const auto& [later, status] : {std::pair(10, 200), std::pair(100, 404)}) {
+        for (int drawing = 0; drawing < later; ++drawing)
+            site.addDrawing(part, configuration, view);
+        QCOMPARE(site.get(oldest).status, status);
+    }
 }
 
 /// A file is made once for all who ask at the same time, and meanwhile nobody else waits.
@@ -249,17 +225,15 @@ void CatalogServiceTest::nobodyWaitsForAnother()
 
 void CatalogServiceTest::pages()
 {
-    for (const char* path : {"/Login.aspx?ForgotPassword=true%5C", "/Register.aspx/%5C"}) {
+    const auto isAnswered = [this](const char* path, int status, const char* text) {
         const HttpAnswer answer = m_fixture->client().get(path);
-        QCOMPARE(answer.status, 200);
-        QVERIFY2(answer.body.contains("development catalog"), path);
-    }
+        QVERIFY2(answer.status == status && answer.body.contains(text), path);
+    };
+    for (const char* path : {"/Login.aspx?ForgotPassword=true%5C", "/Register.aspx/%5C"})
+        isAnswered(path, 200, "development catalog");
     for (const char* path : {"/", "/Thumbnails/", "/Thumbnails/00.png", "/Thumbnails/-1.png",
-                             "/Thumbnails/999999.png", "/Downloads/", "/%00", "/%0d%0aX:%20y"}) {
-        const HttpAnswer answer = m_fixture->client().get(path);
-        QVERIFY2(answer.status == 404, path);
-        QVERIFY2(answer.body.contains("nothing at this address"), path);
-    }
+                             "/Thumbnails/999999.png", "/Downloads/", "/%00", "/%0d%0aX:%20y"})
+        isAnswered(path, 404, "nothing at this address");
 }
 
 void CatalogServiceTest::theRequestLogTellsNoSecrets()

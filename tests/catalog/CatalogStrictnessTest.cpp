@@ -12,9 +12,6 @@ Q_DECLARE_METATYPE(test::SoapRequest)
 namespace
 {
 
-/// More than the buffers of two sockets hold, so that it goes out whole only to a server that reads it all.
-constexpr int FloodSize = 32000000;
-
 const QByteArray Search = "SimpleSearchAcrossCatalogs";
 
 void refuse(const QByteArray& name, const SoapRequest& request, const QString& cause)
@@ -35,7 +32,6 @@ private slots:
 
     void changedRequestsAreRefused_data();
     void changedRequestsAreRefused();
-    void hostileConnectionsDoNoHarm_data();
     void hostileConnectionsDoNoHarm();
 
 private:
@@ -152,26 +148,26 @@ void CatalogStrictnessTest::addChangedHeaders(const SoapRequest& valid)
     refuse("path in another letter case", elsewhere, "no endpoint");
 }
 
-void CatalogStrictnessTest::hostileConnectionsDoNoHarm_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const QByteArray flood(FloodSize, '1');
-    QTest::newRow("noise") << QByteArray("\0\1\2\3\r\n\r\n", 8);
-    QTest::newRow("endless line") << flood;
-    QTest::newRow("endless body") << "POST / HTTP/1.1\r\nContent-Length: 9999999999\r\n\r\n" + flood;
-    QTest::newRow("negative body") << QByteArray("POST / HTTP/1.1\r\nContent-Length: -1\r\n\r\n");
-    QTest::newRow("endless chunk") << "POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n" + flood;
-    QTest::newRow("long path") << "GET /" + QByteArray(8000, 'a') + " HTTP/1.1\r\n\r\n";
-    QTest::newRow("unknown method") << QByteArray("BREW / HTTP/1.1\r\n\r\n");
-}
-
 void CatalogStrictnessTest::hostileConnectionsDoNoHarm()
 {
-    QFETCH(QByteArray, bytes);
-    qint64 sent = 0;
-    QVERIFY(!m_fixture->client().exchange(bytes, &sent).contains(" 200 "));
-    QVERIFY2(sent < FloodSize, "the server reads without end");
-    QCOMPARE(m_fixture->client().get("/Login.aspx").status, 200);
+    // More than the buffers of two sockets hold, so that it goes out whole only to a server that reads it
+    // all.
+    const QByteArray flood(32000000, '1');
+    const QByteArray post = "POST / HTTP/1.1\r\n";
+    const QVector<QByteArray> all{QByteArray("\0\1\2\3\r\n\r\n", 8),
+                                  flood,
+                                  post + "Content-Length: 9999999999\r\n\r\n" + flood,
+                                  post + "Content-Length: -1\r\n\r\n",
+                                  post + "Transfer-Encoding: chunked\r\n\r\n" + flood,
+                                  "GET /" + QByteArray(8000, 'a') + " HTTP/1.1\r\n\r\n",
+                                  "BREW / HTTP/1.1\r\n\r\n"};
+    for (const QByteArray& bytes : all) {
+        qint64 sent = 0;
+        const QByteArray begin = bytes.left(60);
+        QVERIFY2(!m_fixture->client().exchange(bytes, &sent).contains(" 200 "), begin);
+        QVERIFY2(sent < flood.size(), begin); // It reads without end.
+        QCOMPARE(m_fixture->client().get("/Login.aspx").status, 200);
+    }
 }
 
 QTEST_GUILESS_MAIN(CatalogStrictnessTest)

@@ -5,7 +5,6 @@
 #include "dev/dwg/DrawingCheck.h"
 #include "dev/dwg/DrawingExtents.h"
 #include "dev/dwg/Writer.h"
-#include "tests/catalog/DrawingPieces.h"
 
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
@@ -16,22 +15,102 @@
 #include <cmath>
 #include <future>
 #include <map>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 using namespace devcatalog;
 using namespace dwg;
-using test::circlesOf;
-using test::DrawingPiece;
-using test::edgesOf;
-using test::piecesOf;
 
 Q_DECLARE_METATYPE(const Part*)
 
 namespace
 {
+
+/// A straight line or an arc of a drawing, also one that is part of a polyline.
+struct DrawingPiece {
+    LineKind kind;
+    Point2 from;
+    Point2 to;
+    double bulge = 0.0;
+
+    double length() const { return std::hypot(to.x - from.x, to.y - from.y); } ///< Of the chord.
+
+    Point2 middle() const
+    {
+        // An arc's middle lies to the right of its chord, by the bulge times half of it.
+        return {(from.x + to.x) / 2 + bulge * (to.y - from.y) / 2,
+                (from.y + to.y) / 2 - bulge * (to.x - from.x) / 2};
+    }
+
+    DrawingPiece half() const { return {kind, from, middle(), std::tan(std::atan(bulge) / 2)}; }
+
+    bool isNear(const Point2& point, double tolerance) const
+    {
+        // An arc's diameter is its chord, or more by its bulge.
+        const double reach =
+            length() * std::max(1.0, (std::abs(bulge) + 1 / std::max(std::abs(bulge), 1.0)) / 2);
+        if (std::hypot(point.x - from.x, point.y - from.y) > reach + length() + tolerance)
+            return false;
+        // Halved until the pieces are as good as straight.
+        if (std::abs(bulge) > 0.01)
+            return half().isNear(point, tolerance) ||
+                   DrawingPiece{kind, middle(), to, half().bulge}.isNear(point, tolerance);
+        const Point2 along{to.x - from.x, to.y - from.y};
+        const double fraction = ((point.x - from.x) * along.x + (point.y - from.y) * along.y) /
+                                (along.x * along.x + along.y * along.y);
+        const double nearest = std::clamp(fraction, 0.0, 1.0);
+        return std::hypot(point.x - from.x - nearest * along.x, point.y - from.y - nearest * along.y) <
+               tolerance;
+    }
+
+    QString toString() const
+    {
+        return QString::asprintf("kind %d from %g, %g to %g, %g bulge %g", int(kind), from.x, from.y, to.x,
+                                 to.y, bulge);
+    }
+};
+
+/// Takes a drawing's lines and polylines apart, all of them or those of one kind; circles are left out.
+std::vector<DrawingPiece> piecesOf(const std::vector<Entity>& entities, std::optional<LineKind> kind = {})
+{
+    std::vector<DrawingPiece> pieces;
+    for (const Entity& entity : entities) {
+        if (kind && *kind != entity.kind)
+            continue;
+        if (const auto* line = std::get_if<LineSegment>(&entity.shape))
+            pieces.push_back({entity.kind, line->from, line->to});
+        const auto* polyline = std::get_if<Polyline>(&entity.shape);
+        if (!polyline)
+            continue;
+        const auto& vertices = polyline->vertices;
+        for (std::size_t i = 0; i + (polyline->closed ? 0 : 1) < vertices.size(); ++i)
+            pieces.push_back({entity.kind, vertices[i].point, vertices[(i + 1) % vertices.size()].point,
+                              vertices[i].bulge});
+    }
+    return pieces;
+}
+
+std::vector<Circle> circlesOf(const Drawing& drawing, LineKind kind)
+{
+    std::vector<Circle> circles;
+    for (const Entity& entity : drawing.entities)
+        if (const auto* circle = std::get_if<Circle>(&entity.shape); circle && entity.kind == kind)
+            circles.push_back(*circle);
+    return circles;
+}
+
+/// The entities that are not centre lines.
+std::vector<Entity> edgesOf(const Drawing& drawing)
+{
+    std::vector<Entity> edges;
+    std::copy_if(drawing.entities.begin(), drawing.entities.end(), std::back_inserter(edges),
+                 [](const Entity& entity) { return entity.kind != LineKind::Centre; });
+    return edges;
+}
 
 bool isPictorial(const std::string& view)
 {
@@ -72,21 +151,26 @@ QString tally(const Drawing& drawing)
     for (const LineKind kind : {LineKind::Outline, LineKind::Hidden, LineKind::Centre}) {
         int lines = 0;
         int arcs = 0;
-        for (const DrawingPiece& piece : piecesOf(drawing, kind))
+        for (const DrawingPiece& piece : piecesOf(drawing.entities, kind))
             ++(piece.bulge == 0 ? lines : arcs);
         counts << QString("%1/%2/%3").arg(lines).arg(arcs).arg(circlesOf(drawing, kind).size());
     }
     return counts.join(" ");
 }
 
-/// Two edges that cover one another; empty when there are none.
+/// An edge that another one covers; empty when there is none.
 QString drawnTwice(const Drawing& drawing)
 {
-    const std::vector<DrawingPiece> pieces = piecesOf({"", edgesOf(drawing)});
-    for (std::size_t i = 0; i < pieces.size(); ++i)
-        for (std::size_t j = i + 1; j < pieces.size(); ++j)
-            if (pieces[i].covers(pieces[j]))
-                return pieces[i].toString() + " and " + pieces[j].toString();
+    const std::vector<DrawingPiece> pieces = piecesOf(edgesOf(drawing));
+    for (const DrawingPiece& piece : pieces)
+        for (const DrawingPiece& other : pieces) {
+            const bool isStraight = piece.bulge == 0;
+            const double tolerance = isStraight ? 1e-5 : 1e-3 * piece.length();
+            if (&other != &piece && isStraight == (other.bulge == 0) &&
+                (isStraight || piece.kind == other.kind) && other.isNear(piece.middle(), tolerance) &&
+                other.isNear(piece.half().middle(), tolerance))
+                return piece.toString() + " and " + other.toString();
+        }
     return {};
 }
 
@@ -97,12 +181,11 @@ QString looseOutline(const Drawing& drawing)
     const Extents extents = extentsOf(drawing.entities).value();
     const double tolerance = 1e-3 * std::max(extents.width(), extents.height());
     const auto circles = circlesOf(drawing, LineKind::Outline);
-    const auto pieces = piecesOf(drawing, LineKind::Outline);
+    const auto pieces = piecesOf(drawing.entities, LineKind::Outline);
     for (const DrawingPiece& piece : pieces)
         for (const Point2& end : {piece.from, piece.to}) {
             const bool onPiece = std::any_of(pieces.begin(), pieces.end(), [&](const DrawingPiece& other) {
-                return &other != &piece && other.mayReach(end, tolerance) &&
-                       other.distanceTo(end) < tolerance;
+                return &other != &piece && other.isNear(end, tolerance);
             });
             const bool onCircle = std::any_of(circles.begin(), circles.end(), [&](const Circle& circle) {
                 const double distance = std::hypot(end.x - circle.centre.x, end.y - circle.centre.y);
@@ -111,25 +194,6 @@ QString looseOutline(const Drawing& drawing)
             if (!onPiece && !onCircle)
                 return piece.toString();
         }
-    return {};
-}
-
-/// A line without its mirror image on the other side, left and right or above and below; empty when there is
-/// none.
-QString lonely(const Drawing& drawing, bool leftAndRight)
-{
-    const Extents extents = extentsOf(edgesOf(drawing)).value();
-    const auto mirrored = [&](const Point2& point) {
-        return leftAndRight ? Point2{extents.min.x + extents.max.x - point.x, point.y}
-                            : Point2{point.x, extents.min.y + extents.max.y - point.y};
-    };
-    const std::vector<DrawingPiece> pieces = piecesOf(drawing);
-    for (const DrawingPiece& piece : pieces)
-        for (const Point2& point : {piece.from, piece.middle(), piece.to})
-            if (std::none_of(pieces.begin(), pieces.end(), [&](const DrawingPiece& other) {
-                    return other.kind == piece.kind && other.distanceTo(mirrored(point)) < 1e-3;
-                }))
-                return piece.toString();
     return {};
 }
 
@@ -148,8 +212,6 @@ private slots:
     void drawsInEitherUnit();
     void drawsOnSeveralThreads();
     void viewsShowTheDimensions();
-    void symmetricPartsHaveSymmetricViews();
-    void springsLookAlikeFromAllSides();
     void multipleViewsLieBesideOneAnother();
     void thumbnailsShowTheParts();
 
@@ -234,26 +296,18 @@ void PartDrawingTest::everyPartDraws()
 
 void PartDrawingTest::threadsAndKeywaysFollowTheStandards()
 {
-    const auto threadLength = [this](const char* family, const char* size) {
-        const Drawing drawing = drawnFromCatalog(family, size, "FRONT");
+    const auto longest = [this](const char* family, const char* size, LineKind kind) {
         double length = 0;
-        for (const DrawingPiece& piece : piecesOf(drawing, LineKind::Thread))
-            length = std::max(length, 10 * piece.length());
+        for (const DrawingPiece& piece : piecesOf(drawnFromCatalog(family, size, "FRONT").entities, kind))
+            if (piece.bulge == 0 && std::abs(piece.from.y - piece.to.y) < 1e-6)
+                length = std::max(length, 10 * piece.length());
         return std::round(100 * length) / 100;
     };
-    QCOMPARE(threadLength("hex-bolt", "M10 x 60"), 26.0);
-    QCOMPARE(threadLength("socket-screw", "M10 x 50"), 32.0);
-    QCOMPARE(threadLength("socket-screw", "M3 x 16"), 15.0); // whole but for the first two turns
-    const auto keywayWidth = [this](const char* size) {
-        double width = 0;
-        for (const DrawingPiece& piece :
-             piecesOf(drawnFromCatalog("spur-gear", size, "FRONT"), LineKind::Outline))
-            if (piece.bulge == 0 && std::abs(piece.from.y - piece.to.y) < 1e-6)
-                width = std::max(width, 10 * piece.length());
-        return std::round(100 * width) / 100;
-    };
-    QCOMPARE(keywayWidth("M2 Z24, bore 12"), 4.0);
-    QCOMPARE(keywayWidth("M2 Z24, bore 18"), 6.0);
+    QCOMPARE(longest("hex-bolt", "M10 x 60", LineKind::Thread), 26.0);
+    QCOMPARE(longest("socket-screw", "M10 x 50", LineKind::Thread), 32.0);
+    QCOMPARE(longest("socket-screw", "M3 x 16", LineKind::Thread), 15.0); // whole but for the first two turns
+    QCOMPARE(longest("spur-gear", "M2 Z24, bore 12", LineKind::Outline), 4.0); // its keyway
+    QCOMPARE(longest("spur-gear", "M2 Z24, bore 18", LineKind::Outline), 6.0);
 }
 
 /// Three quarters of a circle, outside and inside, with no edge in its place.
@@ -266,7 +320,7 @@ void PartDrawingTest::threadsShowFromTheirEnds()
     for (const auto& [family, size, view, diameter] : ends) {
         const Drawing drawing = drawnFromCatalog(family, size, view);
         double sweep = 0;
-        for (const DrawingPiece& piece : piecesOf(drawing, LineKind::Thread)) {
+        for (const DrawingPiece& piece : piecesOf(drawing.entities, LineKind::Thread)) {
             const double turn = 4 * std::atan(std::abs(piece.bulge));
             QVERIFY(std::abs(10 * piece.length() / std::sin(turn / 2) - diameter) < 0.01);
             sweep += turn;
@@ -294,18 +348,17 @@ void PartDrawingTest::drawsInEitherUnit()
 /// The service draws on all of its threads at once.
 void PartDrawingTest::drawsOnSeveralThreads()
 {
-    constexpr std::size_t count = 12;
     const auto drawAll = [this](std::size_t first) {
-        std::vector<std::string> files(count);
-        for (std::size_t i = first; i < first + count; ++i)
-            files[i % count] =
-                writeDwg(drawn(m_catalog.parts()[i % count * m_catalog.parts().size() / count], "RIGHT"));
+        std::map<std::size_t, std::string> files;
+        for (std::size_t i = first; i < first + 12; ++i)
+            files[i % 12] =
+                writeDwg(drawn(m_catalog.parts()[i % 12 * m_catalog.parts().size() / 12], "RIGHT"));
         return files;
     };
-    std::vector<std::future<std::vector<std::string>>> threads;
+    const auto alone = drawAll(0);
+    std::vector<std::future<std::map<std::size_t, std::string>>> threads;
     for (const std::size_t first : {0, 3, 6, 9})
         threads.push_back(std::async(std::launch::async, drawAll, first));
-    const std::vector<std::string> alone = drawAll(0);
     for (auto& thread : threads)
         QVERIFY(thread.get() == alone);
 }
@@ -348,53 +401,6 @@ void PartDrawingTest::viewsShowTheDimensions()
     row("enclosure", "120x80 x 65", "TOP", 12, 8);
     row("stepper-motor", "57-76", "TOP", 9.7, 5.64);
     row("pneumatic-cylinder", "32-100", "BOTTOM", 9.4 + 10 + 0.95 * 2.7 + 2.2, 4.7);
-}
-
-/// What is hidden on one side cannot be seen on the other, and nothing is missing there.
-void PartDrawingTest::symmetricPartsHaveSymmetricViews()
-{
-    struct Row {
-        const char* family;
-        std::vector<const char*> leftAndRight;
-        std::vector<const char*> aboveAndBelow;
-    };
-    const Row rows[] = {
-        {"hex-nut", {"FRONT", "RIGHT"}, {"FRONT", "RIGHT"}},
-        {"washer", {"FRONT", "TOP"}, {"FRONT", "TOP"}},
-        {"enclosure", {"FRONT", "TOP", "RIGHT", "BOTTOM"}, {"TOP", "BOTTOM"}},
-        {"ball-bearing", {"FRONT", "TOP"}, {"FRONT", "RIGHT"}},
-        {"v-belt-pulley", {"FRONT", "TOP"}, {"FRONT", "RIGHT"}},
-        {"pipe-flange", {"FRONT", "TOP", "BOTTOM"}, {"FRONT", "RIGHT", "LEFT"}},
-        {"pillow-block", {"FRONT", "TOP", "BACK"}, {}},
-        {"spur-gear", {"FRONT", "TOP"}, {}},        // The keyway is on one side.
-        {"hex-bolt", {}, {"FRONT", "TOP", "BACK"}}, // From its end, a thread lacks a quarter.
-        {"aluminium-profile", {"LEFT", "RIGHT"}, {"FRONT", "TOP"}},
-        {"pneumatic-cylinder", {}, {"TOP", "BOTTOM"}},
-        {"bridge-handle", {"FRONT", "RIGHT"}, {}},
-        {"star-knob", {"FRONT", "TOP"}, {}},
-    };
-    for (const Row& row : rows)
-        for (const auto& [views, leftAndRight] :
-             {std::pair(row.leftAndRight, true), std::pair(row.aboveAndBelow, false)})
-            for (const char* view : views) {
-                const QString found = lonely(drawnFromCatalog(row.family, "", view), leftAndRight);
-                QVERIFY2(found.isEmpty(), qPrintable(QString("%1 %2: %3").arg(row.family, view, found)));
-            }
-}
-
-/// The ends of a spring differ from side to side, but not one of its turns.
-void PartDrawingTest::springsLookAlikeFromAllSides()
-{
-    const auto outlineLength = [this](const char* view) {
-        double sum = 0;
-        for (const DrawingPiece& piece :
-             piecesOf(drawnFromCatalog("compression-spring", "", view), LineKind::Outline))
-            sum += piece.length();
-        return sum;
-    };
-    const double front = outlineLength("FRONT");
-    for (const char* view : {"RIGHT", "BACK", "LEFT"})
-        QVERIFY2(std::abs(outlineLength(view) / front - 1) < 0.05, view);
 }
 
 void PartDrawingTest::multipleViewsLieBesideOneAnother()

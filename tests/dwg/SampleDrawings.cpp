@@ -106,12 +106,10 @@ void addPartDrawings(std::vector<SampleDrawing>& samples)
     for (const Part& part : catalog.parts()) {
         for (const std::string_view view : drawingViews()) {
             const std::string name = part.family + '-' + std::string(view);
-            if (names.count(name) != 0)
-                continue;
-            if (const auto drawing = drawPart(part, part.configurations.front(), view)) {
+            const auto drawing =
+                names.count(name) == 0 ? drawPart(part, part.configurations.front(), view) : std::nullopt;
+            if (drawing && names.insert(name).second)
                 samples.push_back({name, *drawing});
-                names.insert(name);
-            }
         }
     }
 }

@@ -1,6 +1,5 @@
 #include "dev/dwg/Writer.h"
 #include "dev/dwg/DrawingExtents.h"
-#include "dev/dwg/Entities.h"
 #include "dev/dwg/Text.h"
 #include "tests/dwg/SampleDrawings.h"
 
@@ -23,11 +22,6 @@ Q_DECLARE_METATYPE(dwg::Drawing)
 namespace
 {
 
-QByteArray hex(const std::string& bytes)
-{
-    return QByteArray::fromStdString(bytes).toHex(' ');
-}
-
 /// The standard Layers in the order of the line kinds, each with its colour.
 const QPair<QString, QString> Layers[] = {
     {"Outline", "#FFFFFFFF"}, {"Hidden", "#828282FF"}, {"Centre", "#FF0000FF"}, {"Thread", "#00FF00FF"}};
@@ -48,7 +42,6 @@ class WriterTest : public QObject
     Q_OBJECT
 
 private slots:
-    void lineEntity();
     void codePage();
     void refusesWhatNoReaderTakes();
     void bytesAreThoseThatReadersAccepted();
@@ -56,22 +49,11 @@ private slots:
     void gdalReadsEveryDrawing();
 };
 
-/// Byte for byte what a CAD program wrote for this line.
-void WriterTest::lineEntity()
-{
-    EntityPlace place;
-    place.handle = 0x43;
-    place.layer = 0x34;
-    place.betweenNeighbours = true;
-    const Object line = shapeEntity(LineSegment{{-37.5, -45.5}, {-37.5, -29.5}}, place);
-    QCOMPARE(hex(line.record()),
-             QByteArray("27 00 44 c6 c0 40 00 00 50 e5 74 21 d8 00 00 00 00 06 02 16 00 00 00 00 00 01 80 8d "
-                        "81 80 00 00 00 00 40 1e e0 66 0a 26 80 3d 29"));
-}
-
 void WriterTest::codePage()
 {
-    const auto encoded = [](const char* utf8) { return hex(toWindows1252(utf8, '?')); };
+    const auto encoded = [](const char* utf8) {
+        return QByteArray::fromStdString(toWindows1252(utf8, '?')).toHex(' ');
+    };
     QCOMPARE(encoded("Größe €–Ÿ"), QByteArray("47 72 f6 df 65 20 80 96 9f"));
     QCOMPARE(encoded("Вa日😀\t\x7f"), QByteArray("3f 61 3f 3f 3f 3f"));
     // Broken UTF-8: a byte that begins nothing, a character cut off by another, one cut off by the end.
