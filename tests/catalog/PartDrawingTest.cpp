@@ -387,20 +387,20 @@ void PartDrawingTest::viewsShowTheDimensions()
     row("washer", "M10, thickness 2", "TOP", 2, 2, "0/0/2 0/0/0 2/0/0");
     row("washer", "M10, thickness 2", "LEFT", 2, 0.2, "4/0/0 2/0/0 1/0/0");
     row("dowel-pin", "8 m6 x 50", "FRONT", 5, 0.8);
-    row("ball-bearing", "6204 open", "TOP", 4.7, 1.4);
+    row("ball-bearing", "6204 open", "TOP", 4.7, 1.4, "10/0/0 10/0/0 1/0/0");
     row("spur-gear", "M2 Z24, bore 18", "FRONT", 5.2, 5.2, "51/146/1 0/0/0 2/0/1");
     row("spur-gear", "M2 Z24, bore 18", "RIGHT", 3.2, 5.2, "7/0/0 3/0/0 3/0/0");
-    row("v-belt-pulley", "SPA 125-2, bore 30", "TOP", 13.06, 3.5);
+    row("v-belt-pulley", "SPA 125-2, bore 30", "TOP", 13.06, 3.5, "28/0/0 12/0/0 3/0/0");
     row("compression-spring", "2 x 20, free length 50", "TOP", 2, 2);
     row("angle-bracket", "50x30 x 60", "FRONT", 5, 3, "6/2/0 4/0/0 2/0/0");
     row("angle-bracket", "50x30 x 60", "TOP", 5, 6, "5/0/2 4/0/0 6/0/0");
     row("angle-bracket", "50x30 x 60", "RIGHT", 6, 3, "5/0/2 4/0/0 6/0/0");
-    row("aluminium-profile", "40x40, 160 mm", "TOP", 16, 4);
-    row("pipe-flange", "DN 50, thickness 20", "RIGHT", 4.5, 16.5);
+    row("aluminium-profile", "40x40, 160 mm", "TOP", 16, 4, "6/0/0 12/0/0 1/0/0");
+    row("pipe-flange", "DN 50, thickness 20", "RIGHT", 4.5, 16.5, "10/0/0 6/0/0 3/0/0");
     row("bridge-handle", "128, height 50", "RIGHT", 1.62, 5);
-    row("enclosure", "120x80 x 65", "TOP", 12, 8);
+    row("enclosure", "120x80 x 65", "TOP", 12, 8, "12/4/8 8/4/0 10/0/0");
     row("stepper-motor", "57-76", "TOP", 9.7, 5.64);
-    row("pneumatic-cylinder", "32-100", "BOTTOM", 9.4 + 10 + 0.95 * 2.7 + 2.2, 4.7);
+    row("pneumatic-cylinder", "32-100", "BOTTOM", 9.4 + 10 + 0.95 * 2.7 + 2.2, 4.7, "25/0/0 14/0/2 7/0/0");
 }
 
 void PartDrawingTest::multipleViewsLieBesideOneAnother()

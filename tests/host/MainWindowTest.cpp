@@ -240,10 +240,9 @@ void MainWindowTest::commandsAreRunByName()
     type("GRID");
     QVERIFY(!m_window->drawingArea().isGridVisible());
     type("LINE");
-    QCOMPARE(m_window->commandLine().history().last(), QString("LINE is not part of the development host."));
+    QCOMPARE(lastLine(), QString("LINE is not part of the development host."));
     type("3DP");
-    QCOMPARE(m_window->commandLine().history().last(),
-             QString("Unknown command \"3DP\". HELP lists the commands."));
+    QCOMPARE(lastLine(), QString("Unknown command \"3DP\". HELP lists the commands."));
 
     QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
     QTest::keyClick(m_window->commandLine().input(), Qt::Key_Up);
@@ -386,9 +385,10 @@ void MainWindowTest::userCommandShowsOnMenuAndRibbon()
                                                                       L"Parts button", id, nullptr);
 
     auto* menu = m_window->findChild<QMenu*>("ID_Import");
+    auto* button = m_window->findChild<QToolButton*>("UserCommand_PARTS");
+    QVERIFY(menu != nullptr && button != nullptr);
     QCOMPARE(menu->actions().value(3)->text(), QString("Parts entry"));
     menu->actions().value(3)->trigger();
-    auto* button = m_window->findChild<QToolButton*>("UserCommand_PARTS");
     QCOMPARE(button->text(), QString("Parts button"));
     QCOMPARE(button->toolTip(), QString("Finds parts"));
     // Its macro gives up what is going on.

@@ -17,7 +17,6 @@
 #include <QDir>
 #include <QImageReader>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSslConfiguration>
 #include <QTemporaryDir>

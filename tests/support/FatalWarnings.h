@@ -12,8 +12,7 @@ namespace test
 /**
  * While it lives, the running test function fails on every warning and critical line that it did not
  * announce, and, at the end, on every announced line that never came. Lines of any thread count; known
- * harmless lines of Qt's are dropped (one list, in the .cpp). Everything else goes
- * on to QtTest.
+ * harmless lines of Qt's are dropped (one list, in the .cpp). Everything else goes on to QtTest.
  *
  * Made in init() and destroyed in cleanup(), because QtTest puts its own handler in place before the first
  * test function. QTest::ignoreMessage is not consulted: announce with expect().
