@@ -71,7 +71,8 @@ void TourTest::outOfReach()
     };
     const auto isNamed = [&](const char* what, const std::function<void(QPushButton & button)>& obstruct) {
         const QString problem = reach(obstruct);
-        QVERIFY2(problem.contains(what) && !problem.startsWith("clicked"), qPrintable(problem));
+        QVERIFY2(problem.contains(what) && !problem.startsWith("clicked"),
+                 qPrintable(QString(what) + ": " + problem));
     };
     QCOMPARE(reach([](QPushButton&) {}), QString("clicked"));
     isNamed("hidden", [](QPushButton& button) { button.hide(); });
