@@ -29,8 +29,8 @@
 namespace
 {
 
-// The value of left, leading and vertically centred alignment, where a column span belongs; one column or 129
-// look the same here.
+// 129 is the value of Qt::AlignLeft | Qt::AlignVCenter, passed as the column span. One column or 129 look the
+// same here.
 constexpr int ColumnSpan = 129;
 
 QGridLayout* createGrid(SectionFrame* section)
