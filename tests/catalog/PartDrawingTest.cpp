@@ -1,6 +1,6 @@
 #include "dev/catalog/drawings/PartDrawing.h"
-#include "dev/catalog/drawings/families/PartSolid.h"
-#include "dev/catalog/drawings/views/HiddenLines.h"
+#include "dev/catalog/drawings/families/Families.h"
+#include "dev/catalog/drawings/views/Sight.h"
 #include "dev/catalog/parts/PartCatalog.h"
 #include "dev/dwg/DrawingCheck.h"
 #include "dev/dwg/DrawingExtents.h"
@@ -136,12 +136,13 @@ double offTheSolid(const Solid& solid, const std::string& view, const Drawing& d
     Bnd_Box box;
     for (const TopoDS_Shape& shape : shapesSeen(solid, camera->second))
         BRepBndLib::AddOptimal(shape, box, false, false);
-    const Point2 a = camera->second.project(box.CornerMin());
-    const Point2 b = camera->second.project(box.CornerMax());
+    const gp_Pnt2d a = camera->second.project(box.CornerMin());
+    const gp_Pnt2d b = camera->second.project(box.CornerMax());
     const Extents seen = extentsOf(edgesOf(drawing)).value();
-    return std::max(
-        {std::abs(seen.min.x - std::min(a.x, b.x) / 10), std::abs(seen.min.y - std::min(a.y, b.y) / 10),
-         std::abs(seen.max.x - std::max(a.x, b.x) / 10), std::abs(seen.max.y - std::max(a.y, b.y) / 10)});
+    return std::max({std::abs(seen.min.x - std::min(a.X(), b.X()) / 10),
+                     std::abs(seen.min.y - std::min(a.Y(), b.Y()) / 10),
+                     std::abs(seen.max.x - std::max(a.X(), b.X()) / 10),
+                     std::abs(seen.max.y - std::max(a.Y(), b.Y()) / 10)});
 }
 
 /// "lines/arcs/circles" of outlines, hidden edges and centre lines.

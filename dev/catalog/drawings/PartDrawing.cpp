@@ -1,6 +1,6 @@
 #include "dev/catalog/drawings/PartDrawing.h"
 
-#include "dev/catalog/drawings/families/PartSolid.h"
+#include "dev/catalog/drawings/families/Families.h"
 #include "dev/catalog/drawings/views/ShadedPicture.h"
 #include "dev/catalog/drawings/views/ViewDrawing.h"
 #include "dev/dwg/DrawingExtents.h"

@@ -2,6 +2,7 @@
 
 #include "dev/catalog/parts/Part.h"
 
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -20,14 +21,12 @@ public:
     double operator()(std::string_view name) const;
 
     /// @throws std::invalid_argument when there is no such parameter, or it is not a positive number.
-    int count(std::string_view name) const;
+    int count(std::string_view name) const { return static_cast<int>(std::lround((*this)(name))); }
 
     /// @return a parameter's value as text; empty when there is none.
     std::string text(std::string_view name) const;
 
 private:
-    const Parameter* find(std::string_view name) const;
-
     const Configuration& m_configuration;
 };
 

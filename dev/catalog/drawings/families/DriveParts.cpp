@@ -1,9 +1,10 @@
-#include "dev/catalog/drawings/families/DriveParts.h"
-
+#include "dev/catalog/drawings/families/Families.h"
+#include "dev/catalog/drawings/families/Features.h"
 #include "dev/catalog/drawings/families/ToothOutline.h"
 #include "dev/catalog/drawings/solids/Shapes.h"
 
 #include <BRepPrimAPI_MakeSphere.hxx>
+#include <ElCLib.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -27,12 +28,6 @@ struct BearingSize {
     double outerShoulder() const { return outer / 2 - 0.26 * thickness(); }
 };
 
-/// @return a ring of rectangular section.
-TopoDS_Shape ring(const gp_Ax2& frame, double inner, double outer, double height)
-{
-    return revolved(frame, polygon({{inner, 0}, {outer, 0}, {outer, height}, {inner, height}}));
-}
-
 /// Rings with chamfers on the sides that fit a shaft and a housing.
 void addRings(Solid& solid, const gp_Ax2& frame, const BearingSize& size)
 {
@@ -40,18 +35,13 @@ void addRings(Solid& solid, const gp_Ax2& frame, const BearingSize& size)
     const double chamfer = std::min(0.06 * width, 0.12 * size.thickness());
     const double bore = size.bore / 2;
     const double outer = size.outer / 2;
-    solid.bodies.push_back({Material::Steel, revolved(frame, polygon({{bore + chamfer, 0},
-                                                                      {size.innerShoulder(), 0},
-                                                                      {size.innerShoulder(), width},
-                                                                      {bore + chamfer, width},
-                                                                      {bore, width - chamfer},
-                                                                      {bore, chamfer}}))});
-    solid.bodies.push_back({Material::Steel, revolved(frame, polygon({{size.outerShoulder(), 0},
-                                                                      {outer - chamfer, 0},
-                                                                      {outer, chamfer},
-                                                                      {outer, width - chamfer},
-                                                                      {outer - chamfer, width},
-                                                                      {size.outerShoulder(), width}}))});
+    const double inside = size.innerShoulder();
+    const Outline inner{{bore + chamfer, 0},     {inside, 0},    {inside, width}, {bore + chamfer, width},
+                        {bore, width - chamfer}, {bore, chamfer}};
+    const Outline around{
+        {outer - chamfer, 0}, {outer, chamfer}, {outer, width - chamfer}, {outer - chamfer, width}};
+    solid.add(Material::Steel, revolved(frame, inner));
+    solid.add(Material::Steel, turned(frame, around, size.outerShoulder()));
 }
 
 void addBalls(Solid& solid, const gp_Ax2& frame, const BearingSize& size)
@@ -59,8 +49,9 @@ void addBalls(Solid& solid, const gp_Ax2& frame, const BearingSize& size)
     const double pitchRadius = (size.bore + size.outer) / 4;
     const double radius = (size.outerShoulder() - size.innerShoulder()) / 2;
     const int count = static_cast<int>(2 * Pi * pitchRadius / (2.6 * radius));
+    const gp_Ax2 middle = raised(frame, size.width / 2);
     for (int i = 0; i < count; ++i) {
-        const gp_Pnt centre = polarPoint(frame, pitchRadius, Pi / 2 + 2 * Pi * i / count, size.width / 2);
+        const gp_Pnt centre = ElCLib::CircleValue(Pi / 2 + 2 * Pi * i / count, middle, pitchRadius);
         solid.bodies.push_back({Material::Zinc, BRepPrimAPI_MakeSphere(centre, radius).Shape(), false});
     }
     solid.pitchCircles.push_back({frame, pitchRadius, 0});
@@ -70,9 +61,9 @@ void addBalls(Solid& solid, const gp_Ax2& frame, const BearingSize& size)
 void addShields(Solid& solid, const gp_Ax2& frame, const BearingSize& size, Material material)
 {
     const double depth = 0.06 * size.width;
+    const double edge = size.outerShoulder();
     for (const double z : {depth, size.width - 2 * depth})
-        solid.bodies.push_back(
-            {material, ring(raised(frame, z), size.innerShoulder(), size.outerShoulder(), depth)});
+        solid.add(material, turned(raised(frame, z), {{edge, 0}, {edge, depth}}, size.innerShoulder()));
 }
 
 /// @return a bore with a keyway at the top. Keyways by shaft diameter as in DIN 6885-1.
@@ -96,21 +87,38 @@ Outline keyedBore(double diameter)
     const double angle = std::asin(half / radius);
     const double shoulder = radius * std::cos(angle);
     const double top = radius + keyway->depthInHub;
-    return {{{-half, shoulder}, std::tan((2 * Pi - 2 * angle) / 4)},
-            {{half, shoulder}, 0},
-            {{half, top}, 0},
-            {{-half, top}, 0}};
+    return {
+        {-half, shoulder, std::tan((2 * Pi - 2 * angle) / 4)}, {half, shoulder}, {half, top}, {-half, top}};
+}
+
+/// The profile of a belt pulley's grooves.
+Outline groovesOf(const Dimensions& given, double outer)
+{
+    const double depth = given("Groove depth");
+    const double flank = std::tan(given("Groove angle") / 2 * Pi / 180);
+    const double halfTop = given("Belt width") / 2 + given("Groove rise") * flank;
+    const double halfBottom = halfTop - depth * flank;
+    const int count = given.count("Grooves");
+    Outline profile;
+    for (int i = 0; i < count; ++i) {
+        const double middle = given("Edge distance") + i * given("Groove spacing");
+        profile.push_back({outer, middle - halfTop});
+        profile.push_back({outer - depth, middle - halfBottom});
+        profile.push_back({outer - depth, middle + halfBottom});
+        profile.push_back({outer, middle + halfTop});
+    }
+    return profile;
 }
 
 } // namespace
 
-Solid ballBearing(const Dimensions& dimensions)
+Solid ballBearing(const Dimensions& given)
 {
     Solid solid;
-    const BearingSize size{dimensions("Bore"), dimensions("Outer diameter"), dimensions("Width")};
+    const BearingSize size{given("Bore"), given("Outer diameter"), given("Width")};
     const gp_Ax2 frame(gp_Pnt(), gp::DY(), gp::DX());
     addRings(solid, frame, size);
-    const std::string sealing = dimensions.text("Sealing");
+    const std::string sealing = given.text("Sealing");
     if (sealing == "open")
         addBalls(solid, frame, size);
     else
@@ -119,107 +127,82 @@ Solid ballBearing(const Dimensions& dimensions)
     return solid;
 }
 
-Solid pillowBlock(const Dimensions& dimensions)
+Solid pillowBlock(const Dimensions& given)
 {
     Solid solid;
-    const double half = dimensions("Length") / 2;
-    const double centre = dimensions("Centre height");
-    const double depth = dimensions("Depth");
+    const double half = given("Length") / 2;
+    const double centre = given("Centre height");
+    const double depth = given("Depth");
     const double foot = 0.3 * centre;
-    const double radius = dimensions("Housing radius");
+    const double radius = given("Housing radius");
     const double insert = 0.72 * radius;
-    const double reach = dimensions("Bolt spacing") / 2;
-    const double hole = dimensions("Bolt hole") / 2;
-    const gp_Ax2 frame(gp_Pnt(0, depth / 2, 0), -gp::DY(), gp::DX());
-    const Outline outline{{{-half, 0}, 0},      {{half, 0}, 0},        {{half, foot}, 0},
-                          {{radius, foot}, 0},  {{radius, centre}, 1}, {{-radius, centre}, 0},
-                          {{-radius, foot}, 0}, {{-half, foot}, 0}};
-    std::vector<TopoDS_Shape> holes{
-        cylinder(gp_Pnt(0, depth / 2, centre), gp_Pnt(0, -depth / 2, centre), insert)};
-    for (const double x : {-reach, reach}) {
-        holes.push_back(cylinder(gp_Pnt(x, 0, 0), gp_Pnt(x, 0, foot), hole));
-        solid.axes.push_back({gp_Pnt(x, 0, 0), gp_Pnt(x, 0, foot), hole});
-    }
-    solid.bodies.push_back({Material::DarkPlastic, cut(prism(frame, outline, depth), holes)});
+    const double reach = given("Bolt spacing") / 2;
+    const gp_Pnt back(0, depth / 2, centre);
+    const Outline outline{{-half, 0},          {half, 0},         {half, foot},    {radius, foot},
+                          {radius, centre, 1}, {-radius, centre}, {-radius, foot}, {-half, foot}};
+    std::vector<TopoDS_Shape> holes{cylinder(back, {0, -depth / 2, centre}, insert)};
+    for (const double x : {-reach, reach})
+        holes.push_back(hole(solid, {x, 0, 0}, {x, 0, foot}, given("Bolt hole") / 2));
+    solid.add(Material::DarkPlastic, cut(prism(towardFront(depth / 2), outline, depth), holes));
     // The insert bearing stands out at the front, where its inner ring is clamped to the shaft.
-    const double bore = dimensions("Bore") / 2;
+    const double bore = given("Bore") / 2;
     const double collar = bore + 0.35 * (insert - bore);
-    const gp_Ax2 bearing(gp_Pnt(0, 0.4 * depth, centre), -gp::DY(), gp::DX());
-    solid.bodies.push_back({Material::Steel, revolved(bearing, polygon({{bore, 0},
-                                                                        {insert, 0},
-                                                                        {insert, 0.8 * depth},
-                                                                        {collar, 0.8 * depth},
-                                                                        {collar, 1.15 * depth},
-                                                                        {bore, 1.15 * depth}}))});
-    solid.axes.push_back({gp_Pnt(0, depth / 2, centre), gp_Pnt(0, -0.75 * depth, centre), radius});
+    const Outline profile{{insert, 0}, {insert, 0.8 * depth}, {collar, 0.8 * depth}, {collar, 1.15 * depth}};
+    solid.add(Material::Steel, turned(towardFront(0.4 * depth, centre), profile, bore));
+    solid.axes.push_back({back, gp_Pnt(0, -0.75 * depth, centre), radius});
     return solid;
 }
 
-Solid spurGear(const Dimensions& dimensions)
+Solid spurGear(const Dimensions& given)
 {
     Solid solid;
-    const double module = dimensions("Module");
-    const int teeth = dimensions.count("Teeth");
-    const double width = dimensions("Face width");
+    const double module = given("Module");
+    const int teeth = given.count("Teeth");
+    const double width = given("Face width");
     const double length = 1.6 * width;
     const double tip = module * (teeth + 2) / 2;
-    const gp_Ax2 frame(gp_Pnt(), -gp::DY(), gp::DX());
-    const Outline bore = keyedBore(dimensions("Bore"));
+    const gp_Ax2 frame = towardFront();
+    const Outline bore = keyedBore(given("Bore"));
     const TopoDS_Shape hub =
-        prism(raised(frame, width), circle(dimensions("Hub diameter") / 2), length - width, bore);
+        prism(raised(frame, width), circle(given("Hub diameter") / 2), length - width, bore);
     // Seen from the side, gears are drawn without their teeth (ISO 2203).
     solid.bodies.push_back({Material::Steel,
-                            fused({prism(frame, toothOutline(module, teeth), width, bore), hub}), true,
-                            fused({prism(frame, circle(tip), width, bore), hub})});
+                            fused(prism(frame, toothOutline(module, teeth), width, bore), hub), true,
+                            fused(prism(frame, circle(tip), width, bore), hub)});
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -length, 0), tip});
     solid.pitchCircles.push_back({frame, module * teeth / 2, width});
     return solid;
 }
 
-Solid beltPulley(const Dimensions& dimensions)
+Solid beltPulley(const Dimensions& given)
 {
     Solid solid;
-    const int grooves = dimensions.count("Grooves");
-    const double spacing = dimensions("Groove spacing");
-    const double edge = dimensions("Edge distance");
-    const double width = (grooves - 1) * spacing + 2 * edge;
-    const double pitchRadius = dimensions("Pitch diameter") / 2;
-    const double rise = dimensions("Groove rise");
-    const double depth = dimensions("Groove depth");
-    const double bore = dimensions("Bore") / 2;
-    const double outer = pitchRadius + rise;
-    const double bottom = outer - depth;
-    const double flank = std::tan(dimensions("Groove angle") / 2 * Pi / 180);
-    const double halfTop = dimensions("Belt width") / 2 + rise * flank;
-    const double halfBottom = halfTop - depth * flank;
-    const double rim = bottom - 0.45 * depth;
+    const double width = (given.count("Grooves") - 1) * given("Groove spacing") + 2 * given("Edge distance");
+    const double pitchRadius = given("Pitch diameter") / 2;
+    const double outer = pitchRadius + given("Groove rise");
+    const double rim = outer - 1.45 * given("Groove depth");
+    const double bore = given("Bore") / 2;
     const double hub = std::min(1.8 * bore, bore + 0.6 * (rim - bore));
     const double web = width * 0.3;
-    std::vector<dwg::Point2> outline{{bore, 0}, {hub, 0}, {hub, web}, {rim, web}, {rim, 0}, {outer, 0}};
-    for (int i = 0; i < grooves; ++i) {
-        const double middle = edge + i * spacing;
-        outline.insert(outline.end(), {{outer, middle - halfTop},
-                                       {bottom, middle - halfBottom},
-                                       {bottom, middle + halfBottom},
-                                       {outer, middle + halfTop}});
-    }
-    outline.insert(
-        outline.end(),
-        {{outer, width}, {rim, width}, {rim, width - web}, {hub, width - web}, {hub, width}, {bore, width}});
-    const gp_Ax2 frame(gp_Pnt(), -gp::DY(), gp::DX());
-    solid.bodies.push_back({Material::Steel, revolved(frame, polygon(outline))});
+    Outline profile{{hub, 0}, {hub, web}, {rim, web}, {rim, 0}, {outer, 0}};
+    const Outline grooves = groovesOf(given, outer);
+    profile.insert(profile.end(), grooves.begin(), grooves.end());
+    const Outline end{{outer, width}, {rim, width}, {rim, width - web}, {hub, width - web}, {hub, width}};
+    profile.insert(profile.end(), end.begin(), end.end());
+    const gp_Ax2 frame = towardFront();
+    solid.add(Material::Steel, turned(frame, profile, bore));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -width, 0), outer});
     solid.pitchCircles.push_back({frame, pitchRadius, width});
     return solid;
 }
 
-Solid compressionSpring(const Dimensions& dimensions)
+Solid compressionSpring(const Dimensions& given)
 {
     Solid solid;
-    const double wire = dimensions("Wire diameter");
-    const double outer = dimensions("Outer diameter");
-    const double height = dimensions("Free length");
-    solid.coil = makeCoil((outer - wire) / 2, wire / 2, dimensions("Turns"), height);
+    const double wire = given("Wire diameter");
+    const double outer = given("Outer diameter");
+    const double height = given("Free length");
+    solid.coil = makeCoil((outer - wire) / 2, wire / 2, given("Turns"), height);
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, 0, height), outer / 2});
     return solid;
 }

@@ -2,6 +2,9 @@
 
 #include "dev/catalog/drawings/solids/Shapes.h"
 
+#include <ElCLib.hxx>
+#include <gp_Ax3.hxx>
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,43 +23,18 @@ double openness(double turn, double turns)
     return fromEnd * fromEnd * (3 - 2 * fromEnd);
 }
 
-/// Tells what the wire hides.
-class WireSight
+/// Whether the wire lies in front of a point on its surface. The z axis goes toward the viewer.
+bool isCovered(const gp_Pnt& point, const std::vector<gp_Pnt>& centreLine, double wireRadius)
 {
-public:
-    WireSight(const Coil& coil, const gp_Dir& toward)
-        : m_frame(gp_Pnt(), toward), m_squaredRadius(coil.wireRadius * coil.wireRadius)
-    {
-        for (const gp_Pnt& point : coil.centreLine)
-            m_places.push_back(placed(point));
-    }
-
-    /// @param point on the wire's surface.
-    bool isVisible(const gp_Pnt& point) const
-    {
+    const double square = wireRadius * wireRadius;
+    return std::any_of(centreLine.begin(), centreLine.end(), [&](const gp_Pnt& other) {
+        const double x = other.X() - point.X();
+        const double y = other.Y() - point.Y();
+        const double distance = x * x + y * y;
         // A point on an outline is as far from the middle of its own wire as the wire is thick.
-        const double radius = 0.99 * m_squaredRadius;
-        const gp_Vec place = placed(point);
-        return std::none_of(m_places.begin(), m_places.end(), [&](const gp_Vec& other) {
-            const double x = other.X() - place.X();
-            const double y = other.Y() - place.Y();
-            const double distance = x * x + y * y;
-            return distance < radius && other.Z() + std::sqrt(m_squaredRadius - distance) > place.Z() + 1e-6;
-        });
-    }
-
-private:
-    gp_Vec placed(const gp_Pnt& point) const
-    {
-        const gp_Vec vector(m_frame.Location(), point);
-        return {vector.Dot(m_frame.XDirection()), vector.Dot(m_frame.YDirection()),
-                vector.Dot(m_frame.Direction())};
-    }
-
-    gp_Ax2 m_frame;
-    double m_squaredRadius;
-    std::vector<gp_Vec> m_places;
-};
+        return distance < 0.99 * square && other.Z() + std::sqrt(square - distance) > point.Z() + 1e-6;
+    });
+}
 
 /// Both outlines along the wire, and the rims of its ends.
 std::vector<std::vector<gp_Pnt>> outlines(const Coil& coil, const gp_Dir& toward)
@@ -66,14 +44,15 @@ std::vector<std::vector<gp_Pnt>> outlines(const Coil& coil, const gp_Dir& toward
         const gp_Vec across = gp_Vec(coil.direction(i)).Crossed(toward);
         if (across.Magnitude() < 1e-6)
             continue;
-        for (const int side : {0, 1})
-            lines[static_cast<std::size_t>(side)].push_back(
-                coil.centreLine[i].Translated((2 * side - 1) * coil.wireRadius * across.Normalized()));
+        const gp_Vec toSide = coil.wireRadius * across.Normalized();
+        lines[0].push_back(coil.centreLine[i].Translated(-toSide));
+        lines[1].push_back(coil.centreLine[i].Translated(toSide));
     }
     for (const std::size_t end : {std::size_t(0), coil.centreLine.size() - 1}) {
         const gp_Ax2 rim(coil.centreLine[end], coil.direction(end));
         for (int i = 0; i <= StepsPerTurn / 4; ++i)
-            lines[end == 0 ? 2 : 3].push_back(polarPoint(rim, coil.wireRadius, 8 * Pi * i / StepsPerTurn, 0));
+            lines[end == 0 ? 2 : 3].push_back(
+                ElCLib::CircleValue(8 * Pi * i / StepsPerTurn, rim, coil.wireRadius));
     }
     return lines;
 }
@@ -98,7 +77,7 @@ Coil makeCoil(double meanRadius, double wireRadius, double turns, double height)
     Coil coil{{}, meanRadius, wireRadius};
     double z = wireRadius;
     for (int i = 0; i <= steps; ++i) {
-        coil.centreLine.push_back(polarPoint(gp_Ax2(), meanRadius, 2 * Pi * i * step, z));
+        coil.centreLine.push_back(ElCLib::CircleValue(2 * Pi * i * step, raised({}, z), meanRadius));
         z += (2 * wireRadius + extraPitch * openness((i + 0.5) * step, turns)) * step;
     }
     return coil;
@@ -106,12 +85,16 @@ Coil makeCoil(double meanRadius, double wireRadius, double turns, double height)
 
 std::vector<std::vector<gp_Pnt>> visibleOutlines(const Coil& coil, const gp_Dir& toward)
 {
-    const WireSight sight(coil, toward);
+    gp_Trsf toViewer;
+    toViewer.SetTransformation(gp_Ax3(gp_Pnt(), toward));
+    std::vector<gp_Pnt> centreLine = coil.centreLine;
+    for (gp_Pnt& point : centreLine)
+        point.Transform(toViewer);
     std::vector<std::vector<gp_Pnt>> visible;
     for (const std::vector<gp_Pnt>& line : outlines(coil, toward)) {
         bool before = false;
         for (const gp_Pnt& point : line) {
-            const bool now = sight.isVisible(point);
+            const bool now = !isCovered(point.Transformed(toViewer), centreLine, coil.wireRadius);
             if (now && !before)
                 visible.emplace_back();
             if (now)

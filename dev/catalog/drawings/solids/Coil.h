@@ -15,7 +15,6 @@ struct Coil {
     double meanRadius = 0.0;
     double wireRadius = 0.0;
 
-    double height() const { return centreLine.back().Z() + wireRadius; }
     /// @return the wire's direction at a point of the centre line.
     gp_Dir direction(std::size_t index) const;
 };

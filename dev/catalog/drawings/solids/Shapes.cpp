@@ -1,8 +1,6 @@
 #include "dev/catalog/drawings/solids/Shapes.h"
 
-#include <BRepAlgoAPI_Common.hxx>
-#include <BRepAlgoAPI_Cut.hxx>
-#include <BRepAlgoAPI_Fuse.hxx>
+#include <BRepAlgoAPI_BooleanOperation.hxx>
 #include <BRepBuilderAPI_MakeEdge.hxx>
 #include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepBuilderAPI_MakeWire.hxx>
@@ -10,6 +8,7 @@
 #include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakePrism.hxx>
 #include <BRepPrimAPI_MakeRevol.hxx>
+#include <ElSLib.hxx>
 #include <GC_MakeArcOfCircle.hxx>
 #include <TopTools_ListOfShape.hxx>
 #include <TopoDS.hxx>
@@ -26,22 +25,22 @@ namespace devcatalog
 namespace
 {
 
-/// @param place turns a point of the outline into one in space.
-template <typename Place>
-TopoDS_Wire wireOf(const Outline& outline, const Place& place)
+TopoDS_Wire wireOf(const gp_Ax2& frame, const Outline& outline)
 {
+    const auto place = [&frame](double x, double y) { return ElSLib::PlaneValue(x, y, frame); };
     BRepBuilderAPI_MakeWire wire;
     for (std::size_t i = 0; i < outline.size(); ++i) {
-        const auto& [from, bulge] = outline[i];
-        const dwg::Point2 to = outline[(i + 1) % outline.size()].point;
+        const auto& [x, y, bulge] = outline[i];
+        const Corner& to = outline[(i + 1) % outline.size()];
+        const gp_Pnt start = place(x, y);
+        const gp_Pnt end = place(to.x, to.y);
         if (bulge == 0.0) {
-            wire.Add(BRepBuilderAPI_MakeEdge(place(from), place(to)));
+            wire.Add(BRepBuilderAPI_MakeEdge(start, end));
             continue;
         }
         // An arc's middle lies to the right of its chord, by the bulge times half of it.
-        const dwg::Point2 middle{(from.x + to.x + bulge * (to.y - from.y)) / 2,
-                                 (from.y + to.y - bulge * (to.x - from.x)) / 2};
-        wire.Add(BRepBuilderAPI_MakeEdge(GC_MakeArcOfCircle(place(from), place(middle), place(to)).Value()));
+        const gp_Pnt middle = place((x + to.x + bulge * (to.y - y)) / 2, (y + to.y - bulge * (to.x - x)) / 2);
+        wire.Add(BRepBuilderAPI_MakeEdge(GC_MakeArcOfCircle(start, middle, end).Value()));
     }
     return wire.Wire();
 }
@@ -54,11 +53,12 @@ TopTools_ListOfShape listOf(const std::vector<TopoDS_Shape>& shapes)
     return list;
 }
 
-template <typename Operation>
-TopoDS_Shape combined(const std::vector<TopoDS_Shape>& shapes, const std::vector<TopoDS_Shape>& tools)
+TopoDS_Shape combined(BOPAlgo_Operation kind, const TopoDS_Shape& shape,
+                      const std::vector<TopoDS_Shape>& tools)
 {
-    Operation operation;
-    operation.SetArguments(listOf(shapes));
+    BRepAlgoAPI_BooleanOperation operation;
+    operation.SetOperation(kind);
+    operation.SetArguments(listOf({shape}));
     operation.SetTools(listOf(tools));
     operation.Build();
     if (operation.HasErrors())
@@ -76,6 +76,11 @@ gp_Ax2 acrossX(double x)
     return {gp_Pnt(x, 0, 0), gp::DX(), gp::DY()};
 }
 
+gp_Ax2 towardFront(double y, double z)
+{
+    return {gp_Pnt(0, y, z), -gp::DY(), gp::DX()};
+}
+
 gp_Ax2 frameAlong(const gp_Pnt& from, const gp_Pnt& to)
 {
     return {from, gp_Dir(gp_Vec(from, to))};
@@ -86,47 +91,30 @@ gp_Ax2 raised(const gp_Ax2& frame, double z)
     return frame.Translated(z * gp_Vec(frame.Direction()));
 }
 
-gp_Pnt pointIn(const gp_Ax2& frame, double x, double y, double z)
-{
-    return frame.Location().Translated(x * gp_Vec(frame.XDirection()) + y * gp_Vec(frame.YDirection()) +
-                                       z * gp_Vec(frame.Direction()));
-}
-
-gp_Pnt polarPoint(const gp_Ax2& frame, double radius, double angle, double z)
-{
-    return pointIn(frame, radius * std::cos(angle), radius * std::sin(angle), z);
-}
-
 Outline circle(double radius)
 {
-    return {{{radius, 0}, 1}, {{-radius, 0}, 1}};
+    return {{radius, 0, 1}, {-radius, 0, 1}};
 }
 
-Outline polygon(const std::vector<dwg::Point2>& corners)
+Outline rectangle(double left, double bottom, double right, double top)
 {
-    Outline outline;
-    for (const dwg::Point2& corner : corners)
-        outline.push_back({corner, 0.0});
-    return outline;
+    return {{left, bottom}, {right, bottom}, {right, top}, {left, top}};
 }
 
 Outline roundedRectangle(double width, double height, double radius)
 {
     const double x = width / 2;
     const double y = height / 2;
-    return {{{radius - x, -y}, 0}, {{x - radius, -y}, QuarterTurn},
-            {{x, radius - y}, 0},  {{x, y - radius}, QuarterTurn},
-            {{x - radius, y}, 0},  {{radius - x, y}, QuarterTurn},
-            {{-x, y - radius}, 0}, {{-x, radius - y}, QuarterTurn}};
+    return {{radius - x, -y}, {x - radius, -y, QuarterTurn}, {x, radius - y},  {x, y - radius, QuarterTurn},
+            {x - radius, y},  {radius - x, y, QuarterTurn},  {-x, y - radius}, {-x, radius - y, QuarterTurn}};
 }
 
 Outline hexagon(double flats)
 {
+    const double radius = flats / std::sqrt(3.0);
     Outline outline;
     for (int i = 0; i < 6; ++i)
-        outline.push_back(
-            {{flats / std::sqrt(3.0) * std::cos(i * Pi / 3), flats / std::sqrt(3.0) * std::sin(i * Pi / 3)},
-             0.0});
+        outline.push_back({radius * std::cos(i * Pi / 3), radius * std::sin(i * Pi / 3)});
     return outline;
 }
 
@@ -142,30 +130,36 @@ TopoDS_Shape cylinder(const gp_Pnt& from, const gp_Pnt& to, double radius)
 
 TopoDS_Shape prism(const gp_Ax2& frame, const Outline& outline, double height, const Outline& hole)
 {
-    const auto place = [&frame](const dwg::Point2& point) { return pointIn(frame, point.x, point.y, 0); };
-    BRepBuilderAPI_MakeFace face(wireOf(outline, place), true);
+    BRepBuilderAPI_MakeFace face(wireOf(frame, outline), true);
     if (!hole.empty())
-        face.Add(TopoDS::Wire(wireOf(hole, place).Reversed()));
+        face.Add(TopoDS::Wire(wireOf(frame, hole).Reversed()));
     return BRepPrimAPI_MakePrism(face.Face(), height * gp_Vec(frame.Direction()));
 }
 
 TopoDS_Shape revolved(const gp_Ax2& frame, const Outline& outline)
 {
-    const TopoDS_Wire wire =
-        wireOf(outline, [&frame](const dwg::Point2& point) { return pointIn(frame, point.x, 0, point.y); });
+    const gp_Ax2 half(frame.Location(), -frame.YDirection(), frame.XDirection());
+    const TopoDS_Wire wire = wireOf(half, outline);
     return BRepPrimAPI_MakeRevol(BRepBuilderAPI_MakeFace(wire, true).Face(), frame.Axis());
+}
+
+TopoDS_Shape turned(const gp_Ax2& frame, Outline profile, double bore)
+{
+    profile.insert(profile.begin(), {bore, profile.front().y});
+    if (profile.back().x > bore)
+        profile.push_back({bore, profile.back().y});
+    return revolved(frame, profile);
 }
 
 TopoDS_Shape hexagonHead(const gp_Ax2& frame, double flats, double height, bool bothEnds)
 {
     const double corner = 1.01 * flats / std::sqrt(3.0);
-    const double turned = 0.475 * flats; // the radius of the flat left by the chamfer
-    const double rise = (corner - turned) * std::tan(Pi / 6);
-    Outline turning = polygon({{0, 0}, {corner, 0}, {corner, height - rise}, {turned, height}, {0, height}});
+    const double face = 0.475 * flats; // the radius of the flat left by the chamfer
+    const double rise = (corner - face) * std::tan(Pi / 6);
+    Outline profile{{corner, 0}, {corner, height - rise}, {face, height}};
     if (bothEnds)
-        turning = polygon(
-            {{0, 0}, {turned, 0}, {corner, rise}, {corner, height - rise}, {turned, height}, {0, height}});
-    return combined<BRepAlgoAPI_Common>({prism(frame, hexagon(flats), height)}, {revolved(frame, turning)});
+        profile = {{face, 0}, {corner, rise}, {corner, height - rise}, {face, height}};
+    return combined(BOPAlgo_COMMON, prism(frame, hexagon(flats), height), {turned(frame, profile)});
 }
 
 TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, double radius)
@@ -189,14 +183,14 @@ TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, doub
     return BRepOffsetAPI_MakePipe(wire.Wire(), BRepBuilderAPI_MakeFace(edge).Face()).Shape();
 }
 
-TopoDS_Shape fused(const std::vector<TopoDS_Shape>& shapes)
+TopoDS_Shape fused(const TopoDS_Shape& shape, const TopoDS_Shape& other)
 {
-    return combined<BRepAlgoAPI_Fuse>({shapes.front()}, {shapes.begin() + 1, shapes.end()});
+    return combined(BOPAlgo_FUSE, shape, {other});
 }
 
 TopoDS_Shape cut(const TopoDS_Shape& shape, const std::vector<TopoDS_Shape>& tools)
 {
-    return combined<BRepAlgoAPI_Cut>({shape}, tools);
+    return combined(BOPAlgo_CUT, shape, tools);
 }
 
 } // namespace devcatalog

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "dev/dwg/Drawing.h"
-
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax2.hxx>
 
@@ -17,33 +15,36 @@ constexpr double Pi = 3.14159265358979323846;
 /// @return a frame across the x axis, with y to its right and z up.
 gp_Ax2 acrossX(double x);
 
+/// @return a frame with its z axis toward the viewer of the front view, x to the right and z up.
+gp_Ax2 towardFront(double y = 0, double z = 0);
+
 /// @return a frame with its z axis from one point toward another.
 gp_Ax2 frameAlong(const gp_Pnt& from, const gp_Pnt& to);
 
 /// @return a frame moved along its own z axis.
 gp_Ax2 raised(const gp_Ax2& frame, double z);
 
-/// @return the point with these coordinates in a frame.
-gp_Pnt pointIn(const gp_Ax2& frame, double x, double y, double z);
-
-/// @return the point at this radius, angle and height around a frame's z axis.
-gp_Pnt polarPoint(const gp_Ax2& frame, double radius, double angle, double z);
-
 // Closed outlines in a frame's xy plane, counter-clockwise.
 
-using Outline = std::vector<dwg::PolylineVertex>;
+struct Corner {
+    double x = 0.0;
+    double y = 0.0;
+    double bulge = 0.0; ///< Of the edge to the next corner: tan(sweep / 4), positive counter-clockwise.
+};
+
+using Outline = std::vector<Corner>;
 
 /// The bulge of a quarter of a circle.
 extern const double QuarterTurn;
 
 Outline circle(double radius);
 
-Outline polygon(const std::vector<dwg::Point2>& corners);
+Outline rectangle(double left, double bottom, double right, double top);
 
 /// @param middle of the rectangle is the origin.
 Outline roundedRectangle(double width, double height, double radius);
 
-/// @param flats distance of opposite sides, which lie to the left and to the right.
+/// @param flats distance of opposite sides, which lie below and above.
 Outline hexagon(double flats);
 
 // Shapes made by the kernel. Each may throw Standard_Failure.
@@ -61,6 +62,10 @@ TopoDS_Shape prism(const gp_Ax2& frame, const Outline& outline, double height, c
 /// @param outline x is the distance from the frame's z axis, y the height along it.
 TopoDS_Shape revolved(const gp_Ax2& frame, const Outline& outline);
 
+/// @param profile of the outside, from bottom to top.
+/// @param bore radius of the hole in the middle; 0 for none.
+TopoDS_Shape turned(const gp_Ax2& frame, Outline profile, double bore = 0);
+
 /// @return a bolt's head or a nut: a hexagonal prism whose corners are turned off at 30 degrees on the far
 /// end, or on both ends; two corners lie on the frame's x axis.
 TopoDS_Shape hexagonHead(const gp_Ax2& frame, double flats, double height, bool bothEnds);
@@ -69,7 +74,7 @@ TopoDS_Shape hexagonHead(const gp_Ax2& frame, double flats, double height, bool 
 TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, double radius);
 
 /// @return shapes as one, without the edges where surfaces go on.
-TopoDS_Shape fused(const std::vector<TopoDS_Shape>& shapes);
+TopoDS_Shape fused(const TopoDS_Shape& shape, const TopoDS_Shape& other);
 
 TopoDS_Shape cut(const TopoDS_Shape& shape, const std::vector<TopoDS_Shape>& tools);
 

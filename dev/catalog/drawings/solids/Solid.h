@@ -11,8 +11,16 @@
 namespace devcatalog
 {
 
-/// What a body is made of; pictures are coloured by it.
-enum class Material { Steel, Zinc, Aluminium, Brass, Bronze, DarkPlastic, LightPlastic, ColouredPlastic };
+/// What a body is made of, by its colour in pictures, 0xRRGGBB.
+enum class Material : unsigned {
+    Steel = 0xb4bcc6,
+    Zinc = 0xc9cdc4,
+    Aluminium = 0xd4d9de,
+    Brass = 0xd8b462,
+    DarkPlastic = 0x7c8691,
+    LightPlastic = 0xddddd6,
+    ColouredPlastic = 0xe08a4a,
+};
 
 /// A piece of a part, of one material.
 struct Body {
@@ -26,15 +34,15 @@ struct Body {
 
 /// A thread around the frame's z axis. Bodies have the cylinder it is cut into, not its turns.
 struct Thread {
-    enum class Kind { External, Internal };
-
-    Kind kind = Kind::External;
+    bool internal = false;
     gp_Ax2 frame = {};
-    double radius = 0.0; ///< The larger, nominal one.
-    double coreRadius =
-        0.0; ///< The smaller one: of the root of an external thread, of the bore of an internal one.
+    double radius = 0.0;     ///< The larger, nominal one.
+    double coreRadius = 0.0; ///< The smaller one: of an external thread's root, of an internal one's bore.
     double length = 0.0;
     double pitch = 0.0;
+
+    /// @return the radius of the thin line that stands for it.
+    double lineRadius() const { return internal ? radius : coreRadius; }
 };
 
 /// The axis of something round, drawn as a centre line, or as a cross where it is seen end on.
@@ -64,6 +72,8 @@ struct Solid {
     std::vector<Axis> axes;
     std::vector<PitchCircle> pitchCircles;
     Side telling = Side::Front; ///< The side that tells most about the part.
+
+    void add(Material material, const TopoDS_Shape& shape) { bodies.push_back({material, shape}); }
 };
 
 } // namespace devcatalog

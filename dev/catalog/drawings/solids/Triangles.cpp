@@ -2,15 +2,13 @@
 
 #include "dev/catalog/drawings/solids/Shapes.h"
 
-#include <BRepAdaptor_Surface.hxx>
-#include <BRepLProp_SLProps.hxx>
+#include <BRepGProp_Face.hxx>
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <BRep_Tool.hxx>
+#include <ElCLib.hxx>
 #include <Poly_Triangulation.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopoDS.hxx>
-
-#include <cmath>
 
 namespace devcatalog
 {
@@ -20,94 +18,62 @@ namespace
 
 constexpr double LargestTurn = 0.25; ///< Between neighbouring triangles, in radians.
 
-/// Gives the normals of a meshed face.
-class FaceNormals
-{
-public:
-    explicit FaceNormals(const TopoDS_Face& face)
-        : m_properties(BRepAdaptor_Surface(face), 1, 1e-9),
-          m_sense(face.Orientation() == TopAbs_REVERSED ? -1 : 1)
-    {
-    }
-
-    /// @param otherwise where the surface has none, as in the apex of a cone.
-    gp_XYZ at(const gp_Pnt2d& place, const gp_XYZ& otherwise)
-    {
-        m_properties.SetParameters(place.X(), place.Y());
-        return m_properties.IsNormalDefined() ? m_sense * m_properties.Normal().XYZ() : otherwise;
-    }
-
-private:
-    BRepLProp_SLProps m_properties;
-    double m_sense;
-};
-
 void appendFace(std::vector<Triangle>& triangles, const TopoDS_Face& face, Material material)
 {
     TopLoc_Location location;
     const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
     if (mesh.IsNull())
         return;
-    FaceNormals normals(face);
+    const BRepGProp_Face surface(face);
     const bool reversed = face.Orientation() == TopAbs_REVERSED;
     for (int i = 1; i <= mesh->NbTriangles(); ++i) {
-        std::array<int, 3> nodes{};
-        mesh->Triangle(i).Get(nodes[0], nodes[1], nodes[2]);
-        if (reversed)
-            std::swap(nodes[1], nodes[2]);
-        Triangle triangle;
-        triangle.material = material;
-        for (std::size_t corner = 0; corner < 3; ++corner)
-            triangle.corners[corner] = mesh->Node(nodes[corner]).Transformed(location.Transformation()).XYZ();
-        const auto& [a, b, c] = triangle.corners;
-        const gp_XYZ across = (b - a).Crossed(c - a);
+        Triangle triangle{material, {}};
+        auto& [a, b, c] = triangle.corners;
+        const Poly_Triangle& nodes = mesh->Triangle(i);
+        for (int corner = 0; corner < 3; ++corner) {
+            const int node = nodes.Value(reversed ? 3 - corner : 1 + corner);
+            gp_Pnt point;
+            gp_Vec normal;
+            surface.Normal(mesh->UVNode(node).X(), mesh->UVNode(node).Y(), point, normal);
+            triangle.corners[static_cast<std::size_t>(corner)] = {
+                mesh->Node(node).Transformed(location.Transformation()).XYZ(), normal.XYZ()};
+        }
+        const gp_XYZ across = (b.place - a.place).Crossed(c.place - a.place);
         if (across.Modulus() < 1e-12)
             continue;
-        for (std::size_t corner = 0; corner < 3; ++corner)
-            triangle.normals[corner] = normals.at(mesh->UVNode(nodes[corner]), across.Normalized());
+        // A surface has no normal in some places, such as the apex of a cone.
+        for (SurfacePoint& corner : triangle.corners)
+            corner.normal = gp_Dir(corner.normal.Modulus() < 1e-9 ? across : corner.normal).XYZ();
         triangles.push_back(triangle);
     }
-}
-
-/// Appends the two triangles between neighbouring places along and around a coil's wire.
-void appendQuadrangle(std::vector<Triangle>& triangles, const std::array<gp_XYZ, 4>& corners,
-                      const std::array<gp_XYZ, 4>& normals)
-{
-    triangles.push_back(
-        {Material::Steel, {corners[0], corners[1], corners[2]}, {normals[0], normals[1], normals[2]}});
-    triangles.push_back(
-        {Material::Steel, {corners[0], corners[2], corners[3]}, {normals[0], normals[2], normals[3]}});
 }
 
 void appendCoil(std::vector<Triangle>& triangles, const Coil& coil)
 {
     constexpr int sides = 24;
     constexpr std::size_t step = 3;
-    const auto normalAt = [&coil](std::size_t index, int side) {
+    const auto pointAt = [&coil](std::size_t index, int side) -> SurfacePoint {
         const gp_Pnt& centre = coil.centreLine[index];
         const gp_Ax2 section(centre, coil.direction(index), gp_Dir(centre.X(), centre.Y(), 0));
-        return (polarPoint(section, 1, 2 * Pi * side / sides, 0).XYZ() - centre.XYZ());
+        const gp_XYZ normal = ElCLib::CircleValue(2 * Pi * side / sides, section, 1).XYZ() - centre.XYZ();
+        return {centre.XYZ() + coil.wireRadius * normal, normal};
     };
-    const auto cornerAt = [&](std::size_t index, const gp_XYZ& normal) {
-        return coil.centreLine[index].XYZ() + coil.wireRadius * normal;
-    };
-    for (std::size_t i = 0; i + step < coil.centreLine.size(); i += step)
-        for (int side = 0; side < sides; ++side) {
-            const std::array<gp_XYZ, 4> normals{normalAt(i, side), normalAt(i, side + 1),
-                                                normalAt(i + step, side + 1), normalAt(i + step, side)};
-            appendQuadrangle(triangles,
-                             {cornerAt(i, normals[0]), cornerAt(i, normals[1]),
-                              cornerAt(i + step, normals[2]), cornerAt(i + step, normals[3])},
-                             normals);
+    const std::size_t last = coil.centreLine.size() - 1;
+    const gp_XYZ out[] = {coil.direction(0).Reversed().XYZ(), coil.direction(last).XYZ()};
+    for (int side = 0; side < sides; ++side) {
+        for (std::size_t i = 0; i + step <= last; i += step) {
+            const SurfacePoint a = pointAt(i, side);
+            const SurfacePoint c = pointAt(i + step, side + 1);
+            triangles.push_back({Material::Steel, {a, pointAt(i, side + 1), c}});
+            triangles.push_back({Material::Steel, {a, c, pointAt(i + step, side)}});
         }
-    for (const std::size_t end : {std::size_t(0), coil.centreLine.size() - 1}) {
-        const gp_XYZ centre = coil.centreLine[end].XYZ();
-        const gp_XYZ out = (end == 0 ? -1 : 1) * coil.direction(end).XYZ();
-        for (int side = 0; side < sides; ++side)
-            triangles.push_back(
-                {Material::Steel,
-                 {centre, cornerAt(end, normalAt(end, side)), cornerAt(end, normalAt(end, side + 1))},
-                 {out, out, out}});
+        for (const std::size_t end : {std::size_t(0), last}) {
+            const gp_XYZ& normal = out[end == 0 ? 0 : 1];
+            triangles.push_back({Material::Steel,
+                                 {SurfacePoint{coil.centreLine[end].XYZ(), normal},
+                                  SurfacePoint{pointAt(end, side).place, normal},
+                                  SurfacePoint{pointAt(end, side + 1).place, normal}}});
+        }
     }
 }
 

@@ -7,11 +7,16 @@
 namespace devcatalog
 {
 
-/// A piece of a surface, with the surface's unit normals, which point out of the material, at its corners.
+/// A place on a surface, with the unit normal there that points out of the material.
+struct SurfacePoint {
+    gp_XYZ place;
+    gp_XYZ normal;
+};
+
+/// A piece of a surface.
 struct Triangle {
     Material material = Material::Steel;
-    std::array<gp_XYZ, 3> corners;
-    std::array<gp_XYZ, 3> normals;
+    std::array<SurfacePoint, 3> corners;
 };
 
 /// @param deviation how far a triangle may be from the surface, in millimetres.

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "dev/catalog/drawings/views/Camera.h"
-#include "dev/catalog/drawings/views/IntervalSet.h"
+#include "dev/dwg/Drawing.h"
 
 #include <Adaptor3d_Curve.hxx>
+#include <Bnd_Box2d.hxx>
+#include <Intrv_Intervals.hxx>
 #include <gp_Circ.hxx>
+#include <gp_Lin2d.hxx>
 
 #include <array>
 #include <vector>
@@ -22,7 +25,10 @@ public:
 
     /// @param from, to parameters on the curve.
     void add(dwg::LineKind kind, const Adaptor3d_Curve& curve, double from, double to);
-    void addLine(dwg::LineKind kind, const gp_Pnt& from, const gp_Pnt& to);
+    void addLine(dwg::LineKind kind, const gp_Pnt& from, const gp_Pnt& to)
+    {
+        addSegment(kind, m_camera.project(from), m_camera.project(to));
+    }
     /// @param from, to angles in radians, the second one larger.
     void addCircle(dwg::LineKind kind, const gp_Circ& circle, double from, double to);
     void addPath(dwg::LineKind kind, const std::vector<gp_Pnt>& points);
@@ -31,11 +37,10 @@ public:
     std::vector<dwg::Entity> entities() const;
 
 private:
-    using Kinds = std::array<IntervalSet, 4>; ///< Indexed by LineKind.
+    using Kinds = std::array<Intrv_Intervals, 4>; ///< Indexed by LineKind.
 
     struct LineGroup {
-        dwg::Point2 origin;
-        dwg::Point2 direction;
+        gp_Lin2d line;
         Kinds parts;
     };
 
@@ -45,20 +50,23 @@ private:
         Kinds parts; ///< Angles from 0 to 2 pi.
     };
 
+    /// A free curve.
     struct Path {
         dwg::LineKind kind;
-        std::vector<dwg::PolylineVertex> vertices;
+        std::vector<gp_Pnt2d> points;
+        Bnd_Box2d box;
+
+        bool runsThrough(const gp_Pnt2d& point) const;
     };
 
-    void addSegment(dwg::LineKind kind, const dwg::Point2& from, const dwg::Point2& to);
+    void addSegment(dwg::LineKind kind, const gp_Pnt2d& from, const gp_Pnt2d& to);
     void addCircleSeenFromTheSide(dwg::LineKind kind, const gp_Circ& circle, double from, double to);
-    bool covers(const gp_Circ& a, const gp_Circ& b) const;
-    std::vector<Interval> partsToDraw(const Kinds& parts, dwg::LineKind kind, double tolerance) const;
-    std::vector<Path> pathsToDraw(dwg::LineKind kind) const;
-    std::vector<dwg::PolylineVertex> arc(const gp_Circ& circle, const Interval& part) const;
-    void appendCircleParts(std::vector<dwg::Entity>& entities, std::vector<Path>& pieces,
-                           const CircleGroup& group, dwg::LineKind kind) const;
-    void appendChains(std::vector<dwg::Entity>& entities, std::vector<Path> pieces) const;
+    CircleGroup& groupOf(const gp_Circ& circle);
+    dwg::Polyline arc(const gp_Circ& circle, double from, double to) const;
+    void appendLines(std::vector<dwg::Polyline>& pieces, dwg::LineKind kind) const;
+    void appendCircle(std::vector<dwg::Entity>& entities, std::vector<dwg::Polyline>& pieces,
+                      const CircleGroup& group, dwg::LineKind kind) const;
+    void appendPaths(std::vector<dwg::Polyline>& pieces, dwg::LineKind kind) const;
 
     Camera m_camera;
     std::vector<LineGroup> m_lines;

@@ -1,6 +1,5 @@
 #include "dev/catalog/drawings/views/PolylineChain.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -9,12 +8,6 @@ namespace devcatalog
 
 namespace
 {
-
-/// A place where pieces end, with the pieces' indices.
-struct Node {
-    dwg::Point2 point;
-    std::vector<std::size_t> pieces;
-};
 
 dwg::Polyline turnedAround(const dwg::Polyline& line)
 {
@@ -30,10 +23,6 @@ public:
     Chainer(std::vector<dwg::Polyline> pieces, double tolerance)
         : m_pieces(std::move(pieces)), m_tolerance(tolerance), m_used(m_pieces.size(), false)
     {
-        for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-            nodeAt(m_pieces[i].vertices.front().point).pieces.push_back(i);
-            nodeAt(m_pieces[i].vertices.back().point).pieces.push_back(i);
-        }
     }
 
     std::vector<dwg::Polyline> chains()
@@ -48,7 +37,7 @@ public:
             chain = turnedAround(chain);
             extend(chain);
             close(chain);
-            result.push_back(chain);
+            result.push_back(std::move(chain));
         }
         return result;
     }
@@ -59,49 +48,46 @@ private:
         return std::hypot(b.x - a.x, b.y - a.y) < m_tolerance;
     }
 
-    Node& nodeAt(const dwg::Point2& point)
+    /// @return the pieces that end in a point; twice the one that begins there too.
+    std::vector<std::size_t> piecesAt(const dwg::Point2& point) const
     {
-        const auto found = std::find_if(m_nodes.begin(), m_nodes.end(),
-                                        [this, &point](const Node& node) { return meet(node.point, point); });
-        if (found != m_nodes.end())
-            return *found;
-        m_nodes.push_back({point, {}});
-        return m_nodes.back();
+        std::vector<std::size_t> pieces;
+        for (std::size_t i = 0; i < m_pieces.size(); ++i)
+            for (const dwg::PolylineVertex& end : {m_pieces[i].vertices.front(), m_pieces[i].vertices.back()})
+                if (meet(end.point, point))
+                    pieces.push_back(i);
+        return pieces;
     }
 
     /// Appends pieces to the chain's end.
     void extend(dwg::Polyline& chain)
     {
         for (;;) {
-            const Node& node = nodeAt(chain.vertices.back().point);
-            const auto next = std::find_if(node.pieces.begin(), node.pieces.end(),
-                                           [this](std::size_t piece) { return !m_used[piece]; });
-            if (node.pieces.size() != 2 || next == node.pieces.end())
+            const dwg::Point2 end = chain.vertices.back().point;
+            const std::vector<std::size_t> pieces = piecesAt(end);
+            if (pieces.size() != 2 || (m_used[pieces[0]] && m_used[pieces[1]]))
                 return;
-            m_used[*next] = true;
-            const dwg::Polyline& piece = m_pieces[*next];
-            const bool forward = meet(piece.vertices.front().point, node.point);
-            const dwg::Polyline oriented = forward ? piece : turnedAround(piece);
-            chain.vertices.back().bulge = oriented.vertices.front().bulge;
-            chain.vertices.insert(chain.vertices.end(), oriented.vertices.begin() + 1,
-                                  oriented.vertices.end());
+            const std::size_t next = m_used[pieces[0]] ? pieces[1] : pieces[0];
+            m_used[next] = true;
+            const bool forward = meet(m_pieces[next].vertices.front().point, end);
+            const auto& [vertices, closed] = forward ? m_pieces[next] : turnedAround(m_pieces[next]);
+            chain.vertices.back().bulge = vertices.front().bulge;
+            chain.vertices.insert(chain.vertices.end(), vertices.begin() + 1, vertices.end());
         }
     }
 
-    void close(dwg::Polyline& chain)
+    void close(dwg::Polyline& chain) const
     {
-        const std::size_t count = chain.vertices.size();
-        if (count < 3 || !meet(chain.vertices.front().point, chain.vertices.back().point) ||
-            nodeAt(chain.vertices.front().point).pieces.size() != 2)
-            return;
-        chain.vertices.pop_back();
-        chain.closed = true;
+        const dwg::Point2& end = chain.vertices.back().point;
+        chain.closed =
+            chain.vertices.size() > 2 && meet(chain.vertices.front().point, end) && piecesAt(end).size() == 2;
+        if (chain.closed)
+            chain.vertices.pop_back();
     }
 
     std::vector<dwg::Polyline> m_pieces;
     double m_tolerance;
     std::vector<bool> m_used;
-    std::vector<Node> m_nodes;
 };
 
 } // namespace

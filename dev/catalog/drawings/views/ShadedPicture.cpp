@@ -25,52 +25,19 @@ constexpr double Margin = 0.05;
 /// How far a triangle may be from its surface, of the picture's larger side.
 constexpr double Deviation = 5e-4;
 
-QColor colourOf(Material material)
-{
-    switch (material) {
-    case Material::Steel:
-        return {0xb4, 0xbc, 0xc6};
-    case Material::Zinc:
-        return {0xc9, 0xcd, 0xc4};
-    case Material::Aluminium:
-        return {0xd4, 0xd9, 0xde};
-    case Material::Brass:
-        return {0xd8, 0xb4, 0x62};
-    case Material::Bronze:
-        return {0xb9, 0x84, 0x5a};
-    case Material::DarkPlastic:
-        return {0x7c, 0x86, 0x91};
-    case Material::LightPlastic:
-        return {0xdd, 0xdd, 0xd6};
-    case Material::ColouredPlastic:
-        return {0xe0, 0x8a, 0x4a};
-    }
-    return Qt::gray;
-}
-
 /// From millimetres in a view to pixels, with y down.
-struct Fit {
-    double scale = 1;
-    QPointF offset;
-
-    QPointF map(const dwg::Point2& point) const
-    {
-        return {scale * point.x + offset.x(), offset.y() - scale * point.y};
-    }
-};
-
-Fit fitTo(const dwg::Extents& extents, int width, int height)
+QTransform fitTo(const dwg::Extents& extents, int width, int height)
 {
     const double scale = (1 - 2 * Margin) * std::min(width / extents.width(), height / extents.height());
     const dwg::Point2 centre = extents.centre();
-    return {scale, {width / 2.0 - scale * centre.x, height / 2.0 + scale * centre.y}};
+    return {scale, 0, 0, -scale, width / 2.0 - scale * centre.x, height / 2.0 + scale * centre.y};
 }
 
 /// Fills triangles in an image larger than the picture, nearer ones over farther ones.
 class TrianglePainter
 {
 public:
-    TrianglePainter(int width, int height, const Fit& fit, const Camera& camera)
+    TrianglePainter(int width, int height, const QTransform& fit, const Camera& camera)
         : m_image(width * Oversampling, height * Oversampling, QImage::Format_ARGB32_Premultiplied),
           m_fit(fit),
           m_camera(camera),
@@ -87,11 +54,11 @@ public:
     {
         std::array<Corner, 3> corners;
         for (std::size_t i = 0; i < 3; ++i)
-            corners[i] = cornerOf(triangle.corners[i], triangle.normals[i]);
+            corners[i] = cornerOf(triangle.corners[i]);
         const double area = doubleArea(corners[0].at, corners[1].at, corners[2].at);
         if (area >= 0) // turned away, y being down
             return;
-        m_colour = colourOf(triangle.material);
+        m_colour = QColor(static_cast<QRgb>(triangle.material));
         const auto [top, bottom] = std::minmax({corners[0].at.y(), corners[1].at.y(), corners[2].at.y()});
         const int last = std::min(m_image.height() - 1, static_cast<int>(bottom));
         for (int row = std::max(0, static_cast<int>(top)); row <= last; ++row)
@@ -118,11 +85,12 @@ private:
         return (b.x() - a.x()) * (c.y() - a.y()) - (b.y() - a.y()) * (c.x() - a.x());
     }
 
-    Corner cornerOf(const gp_XYZ& place, const gp_XYZ& normal) const
+    Corner cornerOf(const SurfacePoint& point) const
     {
-        return {Oversampling * m_fit.map(m_camera.project(place)), m_camera.depth(place),
-                0.5 + 0.5 * std::max(0.0, normal.Dot(m_light.XYZ())),
-                50 * std::pow(std::max(0.0, normal.Dot(m_glance.XYZ())), 24)};
+        const gp_Pnt2d seen = m_camera.project(point.place);
+        return {Oversampling * m_fit.map(QPointF(seen.X(), seen.Y())), m_camera.depth(point.place),
+                0.5 + 0.5 * std::max(0.0, point.normal.Dot(m_light.XYZ())),
+                50 * std::pow(std::max(0.0, point.normal.Dot(m_glance.XYZ())), 24)};
     }
 
     void paintRow(int row, const std::array<Corner, 3>& corners, double area)
@@ -166,7 +134,7 @@ private:
     }
 
     QImage m_image;
-    Fit m_fit;
+    QTransform m_fit;
     const Camera& m_camera;
     QColor m_colour;
     gp_Dir m_light;
@@ -174,47 +142,39 @@ private:
     std::vector<double> m_depths;
 };
 
-/// Adds shapes to a path; those of pictorial views are made of straight pieces.
-struct PathMaker {
-    QPainterPath& path;
-    const Fit& fit;
-
-    void operator()(const dwg::LineSegment& line) const
-    {
-        path.moveTo(fit.map(line.from));
-        path.lineTo(fit.map(line.to));
-    }
-    void operator()(const dwg::Circle& circle) const
-    {
-        path.addEllipse(fit.map(circle.centre), fit.scale * circle.radius, fit.scale * circle.radius);
-    }
-    void operator()(const dwg::Polyline& line) const
-    {
-        QPolygonF points;
-        for (const dwg::PolylineVertex& vertex : line.vertices)
-            points << fit.map(vertex.point);
-        path.addPolygon(points);
-        if (line.closed)
-            path.closeSubpath();
-    }
-};
-
-void drawLines(QImage& image, const std::vector<dwg::Entity>& entities, const Fit& fit)
+/// The lines of a pictorial view, which are made of straight pieces: the turns of threads or all others.
+QPainterPath pathOf(const std::vector<dwg::Entity>& entities, bool threads)
 {
-    QPainterPath edges;
-    QPainterPath threads;
-    for (const dwg::Entity& entity : entities) {
-        QPainterPath& path = entity.kind == dwg::LineKind::Thread ? threads : edges;
-        std::visit(PathMaker{path, fit}, entity.shape);
+    QPainterPath path;
+    for (const auto& [kind, shape] : entities) {
+        if ((kind == dwg::LineKind::Thread) != threads)
+            continue;
+        if (const auto* line = std::get_if<dwg::LineSegment>(&shape)) {
+            path.moveTo(line->from.x, line->from.y);
+            path.lineTo(line->to.x, line->to.y);
+        } else if (const auto* polyline = std::get_if<dwg::Polyline>(&shape)) {
+            QPolygonF points;
+            for (const dwg::PolylineVertex& vertex : polyline->vertices)
+                points << QPointF(vertex.point.x, vertex.point.y);
+            path.addPolygon(points);
+            if (polyline->closed)
+                path.closeSubpath();
+        }
     }
+    return path;
+}
+
+void drawLines(QImage& image, const std::vector<dwg::Entity>& entities, const QTransform& fit)
+{
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     const double width = std::clamp(std::min(image.width(), image.height()) / 110.0, 0.7, 2.0);
-    painter.setPen(
-        QPen(QColor(0x3c, 0x46, 0x52, 0xa0), 0.6 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(threads);
-    painter.setPen(QPen(QColor(0x3c, 0x46, 0x52, 0xc0), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(edges);
+    for (const bool threads : {true, false}) {
+        const QColor colour(0x3c, 0x46, 0x52, threads ? 0xa0 : 0xc0);
+        painter.setPen(
+            QPen(colour, threads ? 0.6 * width : width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(fit.map(pathOf(entities, threads)));
+    }
 }
 
 } // namespace
@@ -223,7 +183,7 @@ QImage paintSolid(const Solid& solid, const Camera& camera, int width, int heigh
 {
     const std::vector<dwg::Entity> lines = drawView(solid, camera);
     const dwg::Extents extents = dwg::extentsOf(lines).value();
-    const Fit fit = fitTo(extents, width, height);
+    const QTransform fit = fitTo(extents, width, height);
     TrianglePainter painter(width, height, fit, camera);
     for (const Triangle& triangle :
          trianglesOf(solid, Deviation * std::max(extents.width(), extents.height())))

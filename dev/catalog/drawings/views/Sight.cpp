@@ -1,12 +1,20 @@
 #include "dev/catalog/drawings/views/Sight.h"
 
-#include "dev/catalog/drawings/views/HiddenLines.h"
-
 #include <BRep_Builder.hxx>
 #include <TopoDS_Compound.hxx>
 
 namespace devcatalog
 {
+
+std::vector<TopoDS_Shape> shapesSeen(const Solid& solid, const Camera& camera)
+{
+    std::vector<TopoDS_Shape> shapes;
+    for (const Body& body : solid.bodies) {
+        const bool simplified = !body.fromTheSide.IsNull() && camera.seesFromTheSide(gp::DY());
+        shapes.push_back(simplified ? body.fromTheSide : body.shape);
+    }
+    return shapes;
+}
 
 Sight::Sight(const Solid& solid, const Camera& camera) : m_toward(camera.toward)
 {

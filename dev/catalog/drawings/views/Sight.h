@@ -11,15 +11,17 @@
 namespace devcatalog
 {
 
+/// @return the bodies' shapes as a camera sees them, in the order of the bodies.
+std::vector<TopoDS_Shape> shapesSeen(const Solid& solid, const Camera& camera);
+
 /// Tells whether a part's bodies lie between a point and the viewer.
 class Sight
 {
 public:
     Sight(const Solid& solid, const Camera& camera);
 
-    /// @param beginning distance in millimetres within which nothing counts, so that the surface which a
-    /// point lies on
-    ///        does not hide it.
+    /// @param beginning distance in millimetres within which nothing counts, so that no point is hidden by
+    /// the surface it lies on.
     bool isFree(const gp_Pnt& point, double beginning = 1e-3);
 
     /// A piece of a line, by its parameter, that is wholly visible or wholly hidden.

@@ -2,7 +2,7 @@
 
 #include "dev/catalog/drawings/solids/Shapes.h"
 #include "dev/catalog/drawings/views/CentreLines.h"
-#include "dev/catalog/drawings/views/HiddenLines.h"
+#include "dev/catalog/drawings/views/EdgeLines.h"
 #include "dev/catalog/drawings/views/ThreadLines.h"
 
 namespace devcatalog
@@ -29,9 +29,7 @@ std::vector<dwg::Entity> drawView(const Solid& solid, const Camera& camera)
 {
     LineWork lineWork(camera);
     Sight sight(solid, camera);
-    for (const Stroke& stroke : findStrokes(solid, camera, sight, !camera.pictorial))
-        lineWork.add(stroke.hidden ? dwg::LineKind::Hidden : dwg::LineKind::Outline, stroke.curve,
-                     stroke.from, stroke.to);
+    addEdgeLines(lineWork, solid, camera, sight);
     if (solid.coil)
         addCoil(lineWork, *solid.coil, camera);
     addThreadLines(lineWork, solid, camera, sight);

@@ -2,6 +2,7 @@
 
 #include "dev/catalog/drawings/solids/Solid.h"
 #include "dev/catalog/drawings/views/Camera.h"
+#include "dev/dwg/Drawing.h"
 
 #include <vector>
 

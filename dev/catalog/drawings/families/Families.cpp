@@ -1,13 +1,7 @@
-#include "dev/catalog/drawings/families/PartSolid.h"
-
-#include "dev/catalog/drawings/families/Actuators.h"
-#include "dev/catalog/drawings/families/DriveParts.h"
-#include "dev/catalog/drawings/families/Fasteners.h"
-#include "dev/catalog/drawings/families/StructuralParts.h"
+#include "dev/catalog/drawings/families/Families.h"
 
 #include <map>
 #include <stdexcept>
-#include <string>
 
 namespace devcatalog
 {

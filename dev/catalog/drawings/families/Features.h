@@ -5,12 +5,12 @@
 namespace devcatalog
 {
 
-/// The metric thread's profile (ISO 68-1, whose flanks and crests ASME B1.1 shares).
-/// @return the radius at the root of an external thread.
-double threadRootRadius(double diameter, double pitch);
+/// @return what to cut from a body for a hole between two points, whose centre line is added.
+TopoDS_Shape hole(Solid& solid, const gp_Pnt& from, const gp_Pnt& to, double radius);
 
-/// @return the radius of the bore that an internal thread is cut into.
-double threadBoreRadius(double diameter, double pitch);
+/// @return the radius at the root of an external metric thread (ISO 68-1, whose flanks and crests ASME B1.1
+/// shares).
+double threadRootRadius(double diameter, double pitch);
 
 /// @return a shank from a frame's origin along its z axis, with a chamfered end that is threaded.
 /// @param threadLength no more of it is threaded than leaves two turns' width at the start.
