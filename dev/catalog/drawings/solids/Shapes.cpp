@@ -25,6 +25,12 @@ namespace devcatalog
 namespace
 {
 
+/// A frame with its z axis from one point toward another.
+gp_Ax2 frameAlong(const gp_Pnt& from, const gp_Pnt& to)
+{
+    return {from, gp_Dir(gp_Vec(from, to))};
+}
+
 TopoDS_Wire wireOf(const gp_Ax2& frame, const Outline& outline)
 {
     const auto place = [&frame](double x, double y) { return ElSLib::PlaneValue(x, y, frame); };
@@ -79,11 +85,6 @@ gp_Ax2 acrossX(double x)
 gp_Ax2 towardFront(double y, double z)
 {
     return {gp_Pnt(0, y, z), -gp::DY(), gp::DX()};
-}
-
-gp_Ax2 frameAlong(const gp_Pnt& from, const gp_Pnt& to)
-{
-    return {from, gp_Dir(gp_Vec(from, to))};
 }
 
 gp_Ax2 raised(const gp_Ax2& frame, double z)

@@ -18,9 +18,6 @@ gp_Ax2 acrossX(double x);
 /// @return a frame with its z axis toward the viewer of the front view, x to the right and z up.
 gp_Ax2 towardFront(double y = 0, double z = 0);
 
-/// @return a frame with its z axis from one point toward another.
-gp_Ax2 frameAlong(const gp_Pnt& from, const gp_Pnt& to);
-
 /// @return a frame moved along its own z axis.
 gp_Ax2 raised(const gp_Ax2& frame, double z);
 
