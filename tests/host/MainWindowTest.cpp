@@ -200,7 +200,7 @@ void MainWindowTest::placementCanBeTyped()
 
 void MainWindowTest::promptsAreCancelled()
 {
-    const auto escapeIn = [this](QWidget* widget) {
+    const auto escapeIn = [](QWidget* widget) {
         widget->setFocus();
         QTest::keyClick(widget, Qt::Key_Escape);
     };
