@@ -227,6 +227,7 @@ void PartHarbor_2D::ReleaseTask(int id)
 void PartHarbor_2D::leave()
 {
     hide();
+    m_parentLayout->removeWidget(this); // it would be asked for its size for as long as the pane is there
     removeRows();
     m_parser = std::make_unique<XMLParser>();
     m_replyText.clear();

@@ -42,6 +42,7 @@ public:
     /// Prepares the table and sends the search for SearchTerm at CurrentPageNumber. Without an API key, or
     /// without the request's template, a box opens instead, during which the page may go.
     void startSearch();
+    /// To be called when the page has been shown: lays it out at once, before it is painted.
     void settle();
 
     /// The last reply's document; a row looks its preview up in it.

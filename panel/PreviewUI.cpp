@@ -178,6 +178,7 @@ void PreviewUI::CategoryButtonPressed(int id)
 void PreviewUI::leave()
 {
     hide();
+    m_parentWidget->layout()->removeWidget(this); // as a results page
     m_sectionItems.clear();
     m_form->preview_page->clear();
     m_inputParameters = QDomNodeList();

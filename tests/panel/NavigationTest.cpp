@@ -119,6 +119,7 @@ void NavigationTest::roundTripKeepsItsPages()
     QVERIFY(m_panel->shown<QLineEdit>("SearchLine")->text().isEmpty());  // a new panel
     QTRY_COMPARE(m_panel->service().requests("ServiceLogin").size(), 2); // and a new session
     QVERIFY(!pages.contains(nullptr));
+    QCOMPARE(layout->count(), count); // those that were left take no part in it
 
     m_panel->closePane();
     QCOMPARE(pages.count(nullptr), pages.size());
