@@ -1,7 +1,22 @@
 #include "addin/SteadyTabs.h"
 
 #include <QEvent>
+#include <QTabBar>
 #include <QTabWidget>
+
+namespace
+{
+
+/// The bar and the corner may need another place in a widget that is large enough for either.
+QVector<QSize> sizesOf(const QTabWidget& tabs)
+{
+    QVector<QSize> sizes{tabs.sizeHint(), tabs.minimumSizeHint(), tabs.tabBar()->sizeHint()};
+    if (const QWidget* corner = tabs.cornerWidget())
+        sizes.append(corner->sizeHint());
+    return sizes;
+}
+
+} // namespace
 
 SteadyTabs::SteadyTabs(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs)
 {
@@ -12,11 +27,9 @@ bool SteadyTabs::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::LayoutRequest)
         return QObject::eventFilter(watched, event);
-    const QSize sizeHint = m_tabs->sizeHint();
-    const QSize minimumSizeHint = m_tabs->minimumSizeHint();
-    if (sizeHint == m_sizeHint && minimumSizeHint == m_minimumSizeHint)
+    QVector<QSize> sizes = sizesOf(*m_tabs);
+    if (sizes == m_sizes)
         return true;
-    m_sizeHint = sizeHint;
-    m_minimumSizeHint = minimumSizeHint;
+    m_sizes = std::move(sizes);
     return false;
 }

@@ -2,10 +2,11 @@
 
 #include <QObject>
 #include <QSize>
+#include <QVector>
 
 class QTabWidget;
 
-/// Keeps from a tab widget the layout requests that change neither of its size hints. It would lay itself out
+/// Keeps from a tab widget the layout requests that change no size which it looks at. It would lay itself out
 /// and repaint its whole page for each, and any text or picture that changes on a page sends several.
 class SteadyTabs : public QObject
 {
@@ -20,6 +21,5 @@ protected:
 
 private:
     QTabWidget* m_tabs;
-    QSize m_sizeHint;
-    QSize m_minimumSizeHint;
+    QVector<QSize> m_sizes; ///< At the last request that it got.
 };

@@ -2,14 +2,17 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QWidget>
 
 void settleLayout(QWidget* widget)
 {
+    QPointer<QWidget> level(widget);
     // A push button asks for its place only when it has been polished.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
     // What is below the widget. An event that is posted meanwhile has to wait for the next call.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    for (; widget != nullptr; widget = widget->parentWidget())
-        QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
+    // The host's widgets are among them, which may do what they like, and the pane go with it.
+    for (; level; level = level->parentWidget())
+        QCoreApplication::sendPostedEvents(level, QEvent::LayoutRequest);
 }

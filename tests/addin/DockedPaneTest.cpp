@@ -70,6 +70,13 @@ void DockedPaneTest::theTabs()
     QVERIFY(panel->inherits("PV3DPartHarbor_2D"));
     tabs()->setCurrentIndex(1);
     QVERIFY(panel->isVisible());
+
+    // The bar follows its texts where the widget itself needs no other room.
+    QTabBar* bar = tabs()->tabBar();
+    for (const char* text : {"2D drawings", "2D", "2D drawings"}) {
+        bar->setTabText(1, text);
+        QTRY_COMPARE(bar->width(), bar->sizeHint().width());
+    }
 }
 
 void DockedPaneTest::theHelpButtonStandsInTheCorner()

@@ -93,6 +93,7 @@ void NavigationTest::roundTripKeepsItsPages()
     auto* layout = m_panel->container()->layout();
     QWidget* const mainPanel = m_panel->shown<QWidget>("PartHarbor_2DMain");
     const int place = layout->indexOf(mainPanel);
+    const QRect geometry = mainPanel->geometry();
     const int count = layout->count();
     m_panel->showResults();
     remember();
@@ -120,6 +121,7 @@ void NavigationTest::roundTripKeepsItsPages()
     QTRY_COMPARE(m_panel->service().requests("ServiceLogin").size(), 2); // and a new session
     QVERIFY(!pages.contains(nullptr));
     QCOMPARE(layout->count(), count); // those that were left take no part in it
+    QCOMPARE(m_panel->shown<QWidget>("PartHarbor_2DMain")->geometry(), geometry);
 
     m_panel->closePane();
     QCOMPARE(pages.count(nullptr), pages.size());
