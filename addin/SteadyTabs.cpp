@@ -4,6 +4,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include <utility>
+
 namespace
 {
 
