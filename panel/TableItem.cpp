@@ -5,6 +5,8 @@
 #include "panel/RowFocus.h"
 #include "panel/ShownText.h"
 #include "service/PictureRequest.h"
+#include "service/PictureThread.h"
+#include "service/Transfer.h"
 #include "ui_TableItem.h"
 
 #include <QApplication>
@@ -31,7 +33,10 @@ int heightWithIcon(const QPushButton* button)
 } // namespace
 
 TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
-    : QWidget(parent), m_form(std::make_unique<Ui::TableItem>()), m_page(page)
+    : QWidget(parent),
+      m_form(std::make_unique<Ui::TableItem>()),
+      m_page(page),
+      m_pictures(PictureThread::shared())
 {
     m_form->setupUi(this);
     // Kept free from the start, so that no row, and nothing around it, is laid out anew when a picture comes.
@@ -82,7 +87,13 @@ QWidget* TableItem::followInTabOrder(QWidget* previous)
 void TableItem::Iamgedata(QNetworkReply* pReply)
 {
     // No larger than the sharpest screen shows it.
-    m_form->iconpushButton->setIcon(QIcon(takePicture(pReply, IconSize * qApp->devicePixelRatio())));
+    m_pictures->decode(takeBody(pReply), IconSize * qApp->devicePixelRatio(), this,
+                       SLOT(showThumbnail(const QImage&)));
+}
+
+void TableItem::showThumbnail(const QImage& image)
+{
+    m_form->iconpushButton->setIcon(QIcon(QPixmap::fromImage(image)));
     m_form->iconpushButton->setIconSize(IconSize);
     m_form->gridLayout_5->activate(); // the button grows before it is painted
 }
@@ -113,5 +124,10 @@ void TableItem::Preview()
 
 void TableItem::PreviewDownloaded(QNetworkReply* pReply)
 {
-    m_detailPage->showPreview(takePicture(pReply));
+    m_pictures->decode(takeBody(pReply), MaximumPictureSize, this, SLOT(showPreview(const QImage&)));
+}
+
+void TableItem::showPreview(const QImage& image)
+{
+    m_detailPage->showPreview(QPixmap::fromImage(image));
 }

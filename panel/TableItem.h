@@ -5,7 +5,9 @@
 #include <memory>
 
 class PartHarbor_2D;
+class PictureThread;
 class PreviewUI;
+class QImage;
 class QNetworkReply;
 
 namespace Ui
@@ -46,9 +48,14 @@ public slots:
     /// Opens the detail page, once.
     void Preview();
 
+private slots:
+    void showThumbnail(const QImage& image);
+    void showPreview(const QImage& image);
+
 private:
     int m_rowIndex = 0;
     std::unique_ptr<Ui::TableItem> m_form;
     PreviewUI* m_detailPage = nullptr;
     PartHarbor_2D* m_page;
+    std::shared_ptr<PictureThread> m_pictures;
 };

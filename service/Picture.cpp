@@ -1,7 +1,6 @@
 #include "service/Picture.h"
 
 #include <QBuffer>
-#include <QImage>
 #include <QImageReader>
 #include <QtEndian>
 
@@ -69,23 +68,23 @@ bool isAcceptable(const QByteArray& format, const QByteArray& bytes)
 
 } // namespace
 
-QPixmap pictureFromBytes(const QByteArray& bytes, const QSize& bound)
+QImage imageFromBytes(const QByteArray& bytes, const QSize& bound)
 {
     QBuffer buffer;
     buffer.setData(bytes.startsWith("\x89PNG") ? withoutTexts(bytes) : bytes);
     buffer.open(QIODevice::ReadOnly);
     const QByteArray format = QImageReader::imageFormat(&buffer);
     if (!isAcceptable(format, bytes))
-        return QPixmap();
+        return QImage();
     QImageReader reader(&buffer, format);
 
     // These formats tell their size before anything is decoded.
     const QSize stated = reader.size();
     const qint64 height = qAbs<qint64>(stated.height()); // negative for a BMP that begins at its top
     if (stated.width() <= 0 || height == 0 || stated.width() * height > MaximumPixels)
-        return QPixmap();
+        return QImage();
     const QSize size(stated.width(), static_cast<int>(height));
     if (size.boundedTo(bound) != size)
         reader.setScaledSize(size.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    return QPixmap::fromImage(reader.read());
+    return reader.read();
 }

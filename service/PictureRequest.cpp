@@ -16,8 +16,3 @@ void requestPicture(const QString& url, QObject* asker, const char* replySlot)
 {
     getTransfer(QUrl(url), MaximumPictureBytes, asker, replySlot);
 }
-
-QPixmap takePicture(QNetworkReply* reply, const QSize& bound)
-{
-    return pictureFromBytes(takeBody(reply), bound);
-}

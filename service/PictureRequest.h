@@ -1,22 +1,13 @@
 #pragma once
 
-#include "service/Picture.h"
-
-#include <QPixmap>
-
 class QNetworkReply;
 class QObject;
 class QString;
 
 /// Fetches a picture with a plain GET on a network manager of its own. The reply comes through the event
-/// loop; its slot passes it to takePicture(). Asker and manager go together. A reply of more than 32
+/// loop; its slot takes the body with takeBody(). Asker and manager go together. A reply of more than 32
 /// million bytes is ended there.
 /// @param url as it stands.
 /// @param asker receives the reply; not owned.
 /// @param replySlot SLOT() of the asker that takes a QNetworkReply*.
 void requestPicture(const QString& url, QObject* asker, const char* replySlot);
-
-/// Reads a picture's reply, and arranges the release of reply and network manager.
-/// @param bound as in pictureFromBytes().
-/// @return the picture; null when the reply brought none (see pictureFromBytes()).
-QPixmap takePicture(QNetworkReply* reply, const QSize& bound = MaximumPictureSize);

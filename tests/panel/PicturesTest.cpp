@@ -1,5 +1,6 @@
 #include "panel/ClickableLabel.h"
 #include "panel/TableItem.h"
+#include "service/PictureThread.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
 
@@ -8,6 +9,7 @@
 #include <QImageWriter>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QtEndian>
 
 using test::PanelFixture;
@@ -95,6 +97,7 @@ private slots:
     void previewOfAHiddenPage();
     void unusablePictures_data();
     void unusablePictures();
+    void lastToGoDoesNotWaitForAll();
 
 private:
     QPushButton* thumbnail() const
@@ -231,6 +234,21 @@ void PicturesTest::unusablePictures()
     QVERIFY(preview->width() >= 200);
     m_panel->clickPreview();
     QCOMPARE(m_panel->boxTexts(), QStringList("Please Login to 3DPH to Download."));
+}
+
+void PicturesTest::lastToGoDoesNotWaitForAll()
+{
+    m_panel.reset();
+    const QByteArray large = picture("PNG", {4000, 4000});
+    QTimer first;
+    QTimer second;
+    auto pictures = PictureThread::shared();
+    QCOMPARE(PictureThread::shared(), pictures);
+    pictures->decode(large, MaximumPictureSize, &first, SLOT(start()));
+    pictures->decode(large, MaximumPictureSize, &second, SLOT(start()));
+    pictures.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(!second.isActive()); // its picture was not decoded
 }
 
 QTEST_MAIN(PicturesTest)

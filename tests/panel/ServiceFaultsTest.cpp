@@ -1,6 +1,7 @@
 #include "panel/ClickableLabel.h"
 #include "panel/PreviewUI.h"
 #include "service/DataStorage.h"
+#include "service/PictureThread.h"
 #include "service/SessionValues.h"
 #include "service/XmlGuard.h"
 #include "tests/panel/PanelFixture.h"
@@ -9,6 +10,7 @@
 #include "tests/support/WaitUntil.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QTest>
 
 #include <functional>
@@ -147,10 +149,7 @@ private:
     void act(const QString& key);
     /// Sends a request with its reply spoiled, and waits for the end.
     void actSpoiled(const Request& request, const Spoil& spoil, Comes comes);
-    bool waitUntilIdle() const
-    {
-        return test::waitUntil([this] { return m_network->isIdle(); });
-    }
+    bool waitUntilIdle() const;
     QString state() const;
     void compareSecrets() const;
 
@@ -182,6 +181,17 @@ void ServiceFaultsTest::init()
         {ConfigParamsOperationName, ScriptedReply::xml("<none/>")},
         {DownloadOperationName, ScriptedReply::result(DownloadOperationName, test::addressOf(DrawingPath))},
         {DrawingPath, test::pictureReply(Drawing)}};
+}
+
+/// @return once the network is idle and the pictures that have come are decoded.
+bool ServiceFaultsTest::waitUntilIdle() const
+{
+    if (!test::waitUntil([this] { return m_network->isIdle(); }))
+        return false;
+    const QPointer<QObject> last(new QObject);
+    const auto pictures = PictureThread::shared();
+    pictures->decode({}, {}, last, SLOT(deleteLater()));
+    return test::waitUntil([&] { return last.isNull(); });
 }
 
 void ServiceFaultsTest::cleanup()
