@@ -1,6 +1,7 @@
 #include "panel/DrawingDownload.h"
 
 #include "common/MessageBoxes.h"
+#include "panel/DisabledFrame.h"
 #include "panel/DownloadedFile.h"
 #include "panel/DrawingViews.h"
 #include "panel/PlacementQueue.h"
@@ -9,11 +10,9 @@
 #include "service/SoapRequest.h"
 #include "service/Transfer.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QNetworkReply>
 #include <QUrl>
-#include <QWidget>
 
 namespace
 {
@@ -28,28 +27,6 @@ QUrl webAddress(const QString& address)
     const bool web = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
     return web ? url : QUrl();
 }
-
-/// Disables a frame for its lifetime. A disabled frame does not keep the focus, so it is given back.
-class DisabledFrame
-{
-public:
-    explicit DisabledFrame(QWidget* frame) : m_frame(frame), m_focused(QApplication::focusWidget())
-    {
-        m_frame->setEnabled(false);
-    }
-    ~DisabledFrame()
-    {
-        m_frame->setEnabled(true);
-        if (m_focused != nullptr && m_frame->isAncestorOf(m_focused))
-            m_focused->setFocus();
-    }
-    DisabledFrame(const DisabledFrame&) = delete;
-    DisabledFrame& operator=(const DisabledFrame&) = delete;
-
-private:
-    QWidget* m_frame;
-    QWidget* m_focused;
-};
 
 } // namespace
 

@@ -23,6 +23,24 @@ const QByteArray Drawing = "AC1015 a drawing";
 const QString DrawingPath = "/files/part.dwg";
 const BlockPromptAnswer AcceptedAnswer{BlockPromptAnswer::Accepted, {1, 2, 3, 4, 5, 6, 7}};
 
+/// Counts the events of an object.
+class EventCounter : public QObject
+{
+public:
+    explicit EventCounter(QObject* watched) { watched->installEventFilter(this); }
+    int count(QEvent::Type type) const { return m_types.count(type); }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        m_types.append(event->type());
+        return false;
+    }
+
+private:
+    QList<QEvent::Type> m_types;
+};
+
 void writeFile(const QString& name, const QByteArray& content)
 {
     QFile file(name);
@@ -269,9 +287,18 @@ void DownloadTest::unusableFileNames()
     QFETCH(QString, path);
     QDir().mkdir("taken0.dwg");
     m_panel->offerDrawing(path, pictureReply(Drawing));
+    auto* frame = m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame");
+    QCoreApplication::processEvents();
+    EventCounter counter(frame);
     m_panel->clickPreview();
     QTRY_COMPARE(g_downloadCounter, 1);
-    QVERIFY(m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame")->isEnabled());
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.count(QEvent::EnabledChange), 2); // disabled and enabled again,
+    QCOMPARE(counter.count(QEvent::Paint), 0);         // which nobody could have seen
+    frame->parentWidget()->update();
+    QTRY_COMPARE(counter.count(QEvent::Paint), 1);
+    for (const QWidget* widget : frame->findChildren<QWidget*>())
+        QVERIFY(widget->updatesEnabled());
     QVERIFY(QDir("taken0.dwg").exists());
 
     m_panel->offerDrawing(DrawingPath, pictureReply(Drawing));
