@@ -12,3 +12,8 @@ void DescriptionEdit::mousePressEvent(QMouseEvent* event)
     }
     QTextEdit::mousePressEvent(event);
 }
+
+void DescriptionEdit::showEvent(QShowEvent* event)
+{
+    QAbstractScrollArea::showEvent(event);
+}

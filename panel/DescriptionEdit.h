@@ -13,4 +13,6 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    /// Begins at the text's start. By itself a text edit looks for its cursor, and lays out for that.
+    void showEvent(QShowEvent* event) override;
 };

@@ -61,7 +61,7 @@ void PV3DPartHarbor_2D::buildSearchRow()
     grid->setVerticalSpacing(0);
     grid->setHorizontalSpacing(270);
 
-    m_searchLine = new QLineEdit;
+    m_searchLine = new QLineEdit(frame);
     m_searchLine->setObjectName(QLatin1String("SearchLine"));
     m_searchLine->setAccessibleName(QLatin1String("Search term"));
     m_searchLine->setMinimumHeight(25);
@@ -70,7 +70,7 @@ void PV3DPartHarbor_2D::buildSearchRow()
     // which begins a column later, lies over the end of the line.
     grid->addWidget(m_searchLine, 0, 0, 1, 129);
 
-    m_searchButton = new QPushButton;
+    m_searchButton = new QPushButton(frame);
     m_searchButton->setObjectName(QLatin1String("SearchButton"));
     m_searchButton->setAccessibleName(QLatin1String("Search"));
     m_searchButton->setMinimumHeight(25);

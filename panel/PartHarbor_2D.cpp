@@ -5,6 +5,7 @@
 #include "panel/BackButton.h"
 #include "panel/PV3DPartHarbor_2D.h"
 #include "panel/PageButtonGroup.h"
+#include "panel/PromptView.h"
 #include "panel/RowHeights.h"
 #include "panel/SettledLayout.h"
 #include "panel/TableItem.h"
@@ -39,6 +40,7 @@ PartHarbor_2D::PartHarbor_2D(pvApplication_c* application, QWidget* parent)
 {
     m_form->setupUi(this);
     m_rowHeights = new RowHeights(m_form->tableWidget);
+    m_promptTable = new PromptView(m_form->tableWidget);
     setUpBackButton(m_form->pushButton);
     setUpPageButtons();
     m_parser = std::make_unique<XMLParser>();
@@ -123,6 +125,12 @@ void PartHarbor_2D::fillTable()
     QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
         control = addRow(row)->followInTabOrder(control);
+    // An event of its own, for the host gets no turn within one. It comes before the page is painted.
+    QMetaObject::invokeMethod(this, "showRows", Qt::QueuedConnection);
+}
+
+void PartHarbor_2D::showRows()
+{
     m_rowHeights->fit();
     m_form->tableWidget->viewport()->show();
     settle();
@@ -132,6 +140,7 @@ void PartHarbor_2D::settle()
 {
     m_form->tableWidget->doItemsLayout();
     settleLayout(m_form->tableWidget->viewport());
+    m_promptTable->follow();
 }
 
 void PartHarbor_2D::removeRows()

@@ -14,6 +14,7 @@ class PV3DPartHarbor_2D;
 class QAbstractButton;
 class QGridLayout;
 class QNetworkReply;
+class PromptView;
 class RowHeights;
 class TableItem;
 class pvApplication_c;
@@ -62,6 +63,9 @@ public slots:
     void OnPushButtonClicked(int id);
     void OnBackButtonClick();
 
+private slots:
+    void showRows();
+
 private:
     void setUpPageButtons();
     void setUpStyleSheet();
@@ -90,4 +94,5 @@ private:
     std::unique_ptr<PageButtonGroup> m_pageButtons;
     QString m_releasedText;
     RowHeights* m_rowHeights = nullptr;
+    PromptView* m_promptTable = nullptr;
 };

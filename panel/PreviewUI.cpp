@@ -5,10 +5,12 @@
 #include "panel/DrawingDownload.h"
 #include "panel/DrawingViews.h"
 #include "panel/PartHarbor_2D.h"
+#include "panel/PromptView.h"
 #include "panel/QtCategoryButton.h"
 #include "panel/RowHeights.h"
 #include "panel/SectionFrame.h"
 #include "panel/SectionTree.h"
+#include "panel/SettledLayout.h"
 #include "panel/ShownText.h"
 #include "panel/TableItem.h"
 #include "service/InputParameters.h"
@@ -48,9 +50,18 @@ void addToColumn(QGridLayout* grid, int row, QWidget* widget)
     grid->addWidget(widget, row, 0, 1, ColumnSpan);
 }
 
-QLabel* createCaption(const char* text)
+/// Keeps a line's height for a label whose text comes later, or all below would have to move then.
+void keepLineFree(QGridLayout* grid, int row, QLabel* label)
 {
-    auto* caption = new QLabel(QLatin1String(text));
+    const QString text = label->text();
+    label->setText(QLatin1String(" "));
+    grid->setRowMinimumHeight(row, label->sizeHint().height());
+    label->setText(text);
+}
+
+QLabel* createCaption(const char* text, QWidget* section)
+{
+    auto* caption = new QLabel(QLatin1String(text), section);
     caption->setStyleSheet(QLatin1String("font-weight: bold;"));
     return caption;
 }
@@ -89,35 +100,37 @@ void PreviewUI::buildConfigureSection()
 
     auto* frame = new SectionFrame(m_form->preview_page);
     QGridLayout* grid = createGrid(frame);
-    m_view = createCaption("View : ");
+    m_view = createCaption("View : ", frame);
     addToColumn(grid, 0, m_view);
-    m_viewComboBox = new QComboBox;
+    m_viewComboBox = new QComboBox(frame);
     m_viewComboBox->addItems(drawingViewTexts());
     m_viewComboBox->setAccessibleName(QLatin1String("View"));
     addToColumn(grid, 1, m_viewComboBox);
-    m_configuration = createCaption("Configuration : ");
+    m_configuration = createCaption("Configuration : ", frame);
     addToColumn(grid, 2, m_configuration);
-    ConfigValueLabel = new QLabel(m_configName);
+    ConfigValueLabel = new QLabel(m_configName, frame);
     ConfigValueLabel->setFrameShape(QFrame::Box);
     ConfigValueLabel->setFrameShadow(QFrame::Sunken);
     ConfigValueLabel->setTextFormat(Qt::PlainText);
     ConfigValueLabel->setWordWrap(true);
     addToColumn(grid, 3, ConfigValueLabel);
-    buildConfigTable();
+    buildConfigTable(frame);
     grid->addWidget(m_configTable, 4, 0, 1, ColumnSpan);
 
     setSectionContent(section.item, frame);
+    keepLineFree(grid, 3, ConfigValueLabel);
 }
 
-void PreviewUI::buildConfigTable()
+void PreviewUI::buildConfigTable(QWidget* section)
 {
-    m_configTable = new QTableWidget(1, 1);
+    m_configTable = new QTableWidget(1, 1, section);
     m_configTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_configTable->horizontalHeader()->hide();
     m_configTable->verticalHeader()->hide();
     m_configTable->setSelectionMode(QAbstractItemView::NoSelection);
     m_configTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_configTable->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    new PromptView(m_configTable);
     m_configTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it is as high as its row
 }
 
@@ -167,6 +180,14 @@ void PreviewUI::showPreview(const QPixmap& picture)
     }
     m_preview_label->setScaledContents(true);
     m_preview_label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void PreviewUI::settle()
+{
+    settleLayout(m_configTable);
+    QCoreApplication::sendPostedEvents(m_configTable->verticalHeader(), QEvent::MetaCall);
+    settleLayout(m_configTable);
+    QCoreApplication::sendPostedEvents(m_form->preview_page, QEvent::MetaCall);
 }
 
 void PreviewUI::CategoryButtonPressed(int id)

@@ -49,6 +49,7 @@ public:
     void showPreview(const QPixmap& picture);
 
 public slots:
+    void settle();
     void CategoryButtonPressed(int id);
     /// Leaves for a new results page of the same search.
     void OnBackbuttonclicked();
@@ -77,7 +78,7 @@ private:
     void leave();
     void buildConfigureSection();
     void buildPreviewSection();
-    void buildConfigTable();
+    void buildConfigTable(QWidget* section);
 
     QLabel* m_view = nullptr;
     QLabel* m_configuration = nullptr;

@@ -12,18 +12,17 @@ constexpr int PictureHeight = 320;
 
 } // namespace
 
-SectionFrame::SectionFrame(QTreeWidget* tree) : QFrame(tree), m_tree(tree)
+SectionFrame::SectionFrame(QTreeWidget* tree) : QFrame(tree->viewport()), m_tree(tree)
 {
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Sunken);
+    setStyleSheet(QLatin1String("margin-bottom: 5px;"));
 }
 
 void SectionFrame::showIn(QTreeWidgetItem* item)
 {
     m_item = item;
     m_tree->setItemWidget(item, 0, this);
-    // Last, for every widget below a sheet is polished anew whenever it moves.
-    setStyleSheet(QLatin1String("margin-bottom: 5px;"));
 }
 
 void SectionFrame::fillTree()

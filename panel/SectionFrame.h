@@ -6,7 +6,9 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// The framed content of a section. Keeps its tree item as high as it needs: a tree neither asks the widget
-/// of an item for a height that depends on its width nor hears of a change.
+/// of an item for a height that depends on its width nor hears of a change. The frame has a style sheet from
+/// the start: a widget that is made its child takes that over, while one that becomes its child is polished
+/// anew.
 class SectionFrame : public QFrame
 {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #include "panel/SectionTree.h"
 
+#include "panel/PromptView.h"
 #include "panel/QtCategoryButton.h"
 #include "panel/SectionFrame.h"
 
@@ -26,6 +27,7 @@ void prepareSectionTree(QTreeWidget* tree)
     tree->setAutoFillBackground(true);
     // A section that the focus passes through must not turn the selection's colour under its header.
     tree->setSelectionMode(QAbstractItemView::NoSelection);
+    new PromptView(tree);
     // Contents may be higher than the tree.
     tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 }

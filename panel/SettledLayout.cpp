@@ -15,4 +15,6 @@ void settleLayout(QWidget* widget)
     // The host's widgets are among them, which may do what they like, and the pane go with it.
     for (; level; level = level->parentWidget())
         QCoreApplication::sendPostedEvents(level, QEvent::LayoutRequest);
+    // A widget that has just been shown asks by an event to be painted, which would come after the painting.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
 }

@@ -120,6 +120,7 @@ void TableItem::Preview()
     m_form->iconpushButton->setEnabled(false);
     m_page->leave();
     m_detailPage->show();
+    QMetaObject::invokeMethod(m_detailPage, "settle", Qt::QueuedConnection);
 }
 
 void TableItem::PreviewDownloaded(QNetworkReply* pReply)

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QPointer>
 #include <QTabBar>
 #include <QTest>
 
@@ -127,9 +128,11 @@ void KeyboardTest::wholeWayByKeys()
     press(Qt::Key_Tab);
     press(Qt::Key_Space); // the search button
     QTRY_VERIFY(m_panel->row(0) != nullptr);
+    const QPointer<QWidget> firstRow(m_panel->row(0));
     tabTo("next_pushButton");
     press(Qt::Key_Space);
     QTRY_COMPARE(m_panel->sent(test::SearchOperationName, "pageNumber"), (QStringList{"1", "2"}));
+    QTRY_VERIFY(firstRow.isNull() && m_panel->row(0) != nullptr);
     tabTo("iconpushButton");
     press(Qt::Key_Space);
     QCOMPARE(m_panel->shownPages(), QStringList("PreviewUI"));

@@ -98,7 +98,8 @@ void PanelFixture::click(const QString& button)
 QWidget* PanelFixture::row(int index) const
 {
     const auto* table = shown<QTableWidget>("tableWidget");
-    return table == nullptr ? nullptr : table->cellWidget(index, 0);
+    QWidget* row = table == nullptr ? nullptr : table->cellWidget(index, 0);
+    return row == nullptr || !row->isVisible() ? nullptr : row;
 }
 
 void PanelFixture::clickThumbnail(int index)

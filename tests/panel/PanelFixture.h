@@ -74,7 +74,7 @@ public:
     void searchFor(const QString& term);
     /// Clicks the visible button of that name.
     void click(const QString& button);
-    /// @return what the shown results page has in that row's cell; null for none.
+    /// @return what the shown results page shows in that row's cell; null for none.
     QWidget* row(int index) const;
     void clickThumbnail(int row);
     /// Searches and waits for the first page of results.
