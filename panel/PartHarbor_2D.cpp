@@ -125,7 +125,7 @@ void PartHarbor_2D::fillTable()
     QWidget* control = m_form->tableWidget;
     for (int row = 0; row < m_modelNames.size(); ++row)
         control = addRow(row)->followInTabOrder(control);
-    // An event of its own, for the host gets no turn within one. It comes before the page is painted.
+    // In an event of its own, so that none takes long. It comes before the page is painted all the same.
     QMetaObject::invokeMethod(this, "showRows", Qt::QueuedConnection);
 }
 

@@ -59,7 +59,7 @@ void PageRush::rush(int clicks)
     clicking.start(1000 / clicks);
     const auto isDone = [&] {
         notePeak();
-        return clicked == clicks && m_run.hasAllReplies();
+        return clicked == clicks && m_run.hasAllReplies() && m_run.user().hasPictures();
     };
     waitFor("the last picture", isDone);
     m_run.settle();
