@@ -75,9 +75,8 @@ void addCable(Solid& solid, double diameter, double relief)
 
 } // namespace
 
-Solid pneumaticCylinder(const Dimensions& given)
+void pneumaticCylinder(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double size = given("Cover size");
     const double length = given("Cover length");
     const double barrel = given("Body length") - 2 * length + given("Stroke");
@@ -96,12 +95,10 @@ Solid pneumaticCylinder(const Dimensions& given)
     solid.add(Material::Steel, fused(rod, threadedShank(solid, acrossX(rodEnd), given("Rod thread"),
                                                         given("Rod thread pitch"), thread, thread)));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(rodEnd + thread, 0, 0), size / 2});
-    return solid;
 }
 
-Solid proximitySensor(const Dimensions& given)
+void proximitySensor(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double diameter = given("Thread diameter");
     const double radius = diameter / 2;
     const double pitch = given("Pitch");
@@ -116,12 +113,10 @@ Solid proximitySensor(const Dimensions& given)
     solid.add(Material::Brass, cut(cylinder(acrossX(0), radius, barrel), gaps));
     addCable(solid, diameter, relief);
     solid.axes.push_back({gp_Pnt(-relief, 0, 0), gp_Pnt(barrel + face, 0, 0), flats / 2});
-    return solid;
 }
 
-Solid stepperMotor(const Dimensions& given)
+void stepperMotor(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double size = given("Frame size");
     const double length = given("Body length");
     const double flange = std::min(0.25 * length, 0.2 * size);
@@ -149,7 +144,6 @@ Solid stepperMotor(const Dimensions& given)
     const Outline plug = rectangle(-0.375 * flange, -size / 6, 0.375 * flange, size / 6);
     solid.add(Material::LightPlastic, prism(below, plug, 0.12 * size));
     solid.axes.push_back({gp_Pnt(-length, 0, 0), gp_Pnt(shaftLength, 0, 0), pilot});
-    return solid;
 }
 
 } // namespace devcatalog

@@ -112,9 +112,8 @@ Outline groovesOf(const Dimensions& given, double outer)
 
 } // namespace
 
-Solid ballBearing(const Dimensions& given)
+void ballBearing(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const BearingSize size{given("Bore"), given("Outer diameter"), given("Width")};
     const gp_Ax2 frame(gp_Pnt(), gp::DY(), gp::DX());
     addRings(solid, frame, size);
@@ -124,12 +123,10 @@ Solid ballBearing(const Dimensions& given)
     else
         addShields(solid, frame, size, sealing == "2RS" ? Material::DarkPlastic : Material::Zinc);
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, size.width, 0), size.outer / 2});
-    return solid;
 }
 
-Solid pillowBlock(const Dimensions& given)
+void pillowBlock(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double half = given("Length") / 2;
     const double centre = given("Centre height");
     const double depth = given("Depth");
@@ -150,12 +147,10 @@ Solid pillowBlock(const Dimensions& given)
     const Outline profile{{insert, 0}, {insert, 0.8 * depth}, {collar, 0.8 * depth}, {collar, 1.15 * depth}};
     solid.add(Material::Steel, turned(towardFront(0.4 * depth, centre), profile, bore));
     solid.axes.push_back({back, gp_Pnt(0, -0.75 * depth, centre), radius});
-    return solid;
 }
 
-Solid spurGear(const Dimensions& given)
+void spurGear(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double module = given("Module");
     const int teeth = given.count("Teeth");
     const double width = given("Face width");
@@ -171,12 +166,10 @@ Solid spurGear(const Dimensions& given)
                             fused(prism(frame, circle(tip), width, bore), hub)});
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -length, 0), tip});
     solid.pitchCircles.push_back({frame, module * teeth / 2, width});
-    return solid;
 }
 
-Solid beltPulley(const Dimensions& given)
+void beltPulley(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double width = (given.count("Grooves") - 1) * given("Groove spacing") + 2 * given("Edge distance");
     const double pitchRadius = given("Pitch diameter") / 2;
     const double outer = pitchRadius + given("Groove rise");
@@ -193,18 +186,15 @@ Solid beltPulley(const Dimensions& given)
     solid.add(Material::Steel, turned(frame, profile, bore));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -width, 0), outer});
     solid.pitchCircles.push_back({frame, pitchRadius, width});
-    return solid;
 }
 
-Solid compressionSpring(const Dimensions& given)
+void compressionSpring(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double wire = given("Wire diameter");
     const double outer = given("Outer diameter");
     const double height = given("Free length");
     solid.coil = makeCoil((outer - wire) / 2, wire / 2, given("Turns"), height);
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, 0, height), outer / 2});
-    return solid;
 }
 
 } // namespace devcatalog

@@ -8,7 +8,7 @@ namespace devcatalog
 
 Solid buildSolid(std::string_view family, const Configuration& configuration)
 {
-    using Builder = Solid (*)(const Dimensions&);
+    using Builder = void (*)(Solid&, const Dimensions&);
     static const std::map<std::string_view, Builder> builders = {
         {"hex-bolt", hexBolt},
         {"socket-screw", socketScrew},
@@ -33,7 +33,9 @@ Solid buildSolid(std::string_view family, const Configuration& configuration)
     const auto builder = builders.find(family);
     if (builder == builders.end())
         throw std::invalid_argument("unknown family " + std::string(family));
-    return builder->second(Dimensions(configuration));
+    Solid solid;
+    builder->second(solid, Dimensions(configuration));
+    return solid;
 }
 
 } // namespace devcatalog

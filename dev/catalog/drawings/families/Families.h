@@ -10,51 +10,51 @@ namespace devcatalog
 /// @throws std::invalid_argument when the family is unknown or a dimension is missing.
 Solid buildSolid(std::string_view family, const Configuration& configuration);
 
-// The solids of the families. Each throws std::invalid_argument when a dimension is missing.
+// What the families add to an empty solid. Each throws std::invalid_argument when a dimension is missing.
 
 // Fasteners, whose axis is x; the head's seat is in the origin.
-Solid hexBolt(const Dimensions& given);
-Solid socketScrew(const Dimensions& given);
-Solid dowelPin(const Dimensions& given);
+void hexBolt(Solid& solid, const Dimensions& given);
+void socketScrew(Solid& solid, const Dimensions& given);
+void dowelPin(Solid& solid, const Dimensions& given);
 
 // Fasteners, whose axis is z; the lower end is in the origin.
-Solid hexNut(const Dimensions& given);
-Solid washer(const Dimensions& given);
-Solid starKnob(const Dimensions& given);
+void hexNut(Solid& solid, const Dimensions& given);
+void washer(Solid& solid, const Dimensions& given);
+void starKnob(Solid& solid, const Dimensions& given);
 
 // Drive parts, whose axis is y, so that the front view shows the face; its middle is in the origin.
-Solid ballBearing(const Dimensions& given);
-Solid spurGear(const Dimensions& given);
-Solid beltPulley(const Dimensions& given);
+void ballBearing(Solid& solid, const Dimensions& given);
+void spurGear(Solid& solid, const Dimensions& given);
+void beltPulley(Solid& solid, const Dimensions& given);
 
 /// Shaft along y; the origin is in the middle of the foot.
-Solid pillowBlock(const Dimensions& given);
+void pillowBlock(Solid& solid, const Dimensions& given);
 
 /// Axis along z; the lower end is in the origin.
-Solid compressionSpring(const Dimensions& given);
+void compressionSpring(Solid& solid, const Dimensions& given);
 
 /// Legs along x and z, from the corner in the origin; width along y.
-Solid angleBracket(const Dimensions& given);
+void angleBracket(Solid& solid, const Dimensions& given);
 
 /// Length along x.
-Solid aluminiumProfile(const Dimensions& given);
+void aluminiumProfile(Solid& solid, const Dimensions& given);
 
 /// Axis along y, so that the front view shows the face; the origin is in the middle of the back.
-Solid pipeFlange(const Dimensions& given);
+void pipeFlange(Solid& solid, const Dimensions& given);
 
 /// Grip along x, feet in the xy plane.
-Solid bridgeHandle(const Dimensions& given);
+void bridgeHandle(Solid& solid, const Dimensions& given);
 
 /// A box on the xy plane.
-Solid enclosure(const Dimensions& given);
+void enclosure(Solid& solid, const Dimensions& given);
 
 /// Axis along x; the back of the rear cover is in the origin, the rod on the right.
-Solid pneumaticCylinder(const Dimensions& given);
+void pneumaticCylinder(Solid& solid, const Dimensions& given);
 
 /// Axis along x; the sensing face is on the right, the cable on the left; the barrel begins in the origin.
-Solid proximitySensor(const Dimensions& given);
+void proximitySensor(Solid& solid, const Dimensions& given);
 
 /// Axis along x; the mounting face is in the origin, the shaft on the right.
-Solid stepperMotor(const Dimensions& given);
+void stepperMotor(Solid& solid, const Dimensions& given);
 
 } // namespace devcatalog

@@ -10,18 +10,17 @@ namespace devcatalog
 namespace
 {
 
-/// A head toward -x and a shank toward x, as one.
+/// Adds a head toward -x and a shank toward x, as one.
 /// @param partialThread length of the thread where the shank is not threaded whole.
-Solid boltWith(const TopoDS_Shape& head, double headRadius, const Dimensions& given, double partialThread)
+void addBolt(Solid& solid, const TopoDS_Shape& head, double headRadius, const Dimensions& given,
+             double partialThread)
 {
-    Solid solid;
     const double length = given("Length");
     const gp_Ax2 frame(gp_Pnt(), gp::DX(), gp::DZ());
     const TopoDS_Shape shank = threadedShank(solid, frame, given("Thread diameter"), given("Pitch"), length,
                                              given.text("Thread") == "partial" ? partialThread : length);
     solid.add(Material::Steel, fused(head, shank));
     solid.axes.push_back({gp_Pnt(-given("Head height"), 0, 0), gp_Pnt(length, 0, 0), headRadius});
-    return solid;
 }
 
 /// The outline of a knob: lobes and hollows that share a tangent where they meet, so that their sweeps make
@@ -43,16 +42,16 @@ Outline starOutline(int lobes, double radius)
 
 } // namespace
 
-Solid hexBolt(const Dimensions& given)
+void hexBolt(Solid& solid, const Dimensions& given)
 {
     const double flats = given("Width across flats");
     const gp_Ax2 frame(gp_Pnt(), -gp::DX(), gp::DZ());
     const TopoDS_Shape head = hexagonHead(frame, flats, given("Head height"), false);
     // ISO 4014: lengths up to 125 mm.
-    return boltWith(head, flats / std::sqrt(3.0), given, 2 * given("Thread diameter") + 6);
+    addBolt(solid, head, flats / std::sqrt(3.0), given, 2 * given("Thread diameter") + 6);
 }
 
-Solid socketScrew(const Dimensions& given)
+void socketScrew(Solid& solid, const Dimensions& given)
 {
     const double height = given("Head height");
     const double radius = given("Head diameter") / 2;
@@ -64,12 +63,11 @@ Solid socketScrew(const Dimensions& given)
     const TopoDS_Shape socket =
         prism(raised(frame, height - depth), hexagon(given("Socket size")), 2 * depth);
     // ISO 4762.
-    return boltWith(cut(head, {socket}), radius, given, 2 * given("Thread diameter") + 12);
+    addBolt(solid, cut(head, {socket}), radius, given, 2 * given("Thread diameter") + 12);
 }
 
-Solid dowelPin(const Dimensions& given)
+void dowelPin(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double radius = given("Diameter") / 2;
     const double length = given("Length");
     // One end is chamfered, the other crowned with the pin's diameter as radius.
@@ -78,35 +76,29 @@ Solid dowelPin(const Dimensions& given)
         {0.9 * radius, 0}, {radius, 0.3 * radius}, {radius, length - crown, std::tan(Pi / 24)}, {0, length}};
     solid.add(Material::Steel, turned(gp_Ax2(gp_Pnt(), gp::DX(), gp::DZ()), profile));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(length, 0, 0), radius});
-    return solid;
 }
 
-Solid hexNut(const Dimensions& given)
+void hexNut(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double height = given("Height");
     const double flats = given("Width across flats");
     const TopoDS_Shape bore = threadedBore(solid, {}, given("Thread diameter"), given("Pitch"), height);
     solid.add(Material::Steel, cut(hexagonHead({}, flats, height, true), {bore}));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, 0, height), flats / std::sqrt(3.0)});
     solid.telling = Side::Top;
-    return solid;
 }
 
-Solid washer(const Dimensions& given)
+void washer(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double radius = given("Outer diameter") / 2;
     const double thickness = given("Thickness");
     solid.add(Material::Zinc, turned({}, {{radius, 0}, {radius, thickness}}, given("Inner diameter") / 2));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, 0, thickness), radius});
     solid.telling = Side::Top;
-    return solid;
 }
 
-Solid starKnob(const Dimensions& given)
+void starKnob(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double radius = given("Head diameter") / 2;
     const double height = given("Head height");
     const double cap = 0.06 * height;
@@ -122,7 +114,6 @@ Solid starKnob(const Dimensions& given)
     solid.add(Material::Steel,
               threadedShank(solid, down, given("Thread diameter"), given("Pitch"), stud, stud));
     solid.axes.push_back({gp_Pnt(0, 0, -stud), gp_Pnt(0, 0, height), radius});
-    return solid;
 }
 
 } // namespace devcatalog

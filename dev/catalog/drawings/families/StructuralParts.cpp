@@ -12,7 +12,8 @@ namespace devcatalog
 namespace
 {
 
-/// A profile's section: the right side from bottom to top, and the others, which are the same, turned.
+/// A profile's section: the right side from bottom to top, whose upper half mirrors the lower one, and the
+/// others, which are the same, turned.
 Outline slottedSquare(const Dimensions& given)
 {
     const double half = given("Size") / 2;
@@ -22,18 +23,11 @@ Outline slottedSquare(const Dimensions& given)
     const double chamber = given("Slot inner width") / 2;
     const double knee = lip - 0.45 * (lip - bottom);
     const double rounding = 0.075 * half;
-    const Outline side{{half, -half + rounding},
-                       {half, -slot},
-                       {lip, -slot},
-                       {lip, -chamber},
-                       {knee, -chamber},
-                       {bottom, -0.45 * chamber},
-                       {bottom, 0.45 * chamber},
-                       {knee, chamber},
-                       {lip, chamber},
-                       {lip, slot},
-                       {half, slot},
-                       {half, half - rounding, QuarterTurn}};
+    Outline side{{half, rounding - half}, {half, -slot},    {lip, -slot},
+                 {lip, -chamber},         {knee, -chamber}, {bottom, -0.45 * chamber}};
+    for (std::size_t i = side.size(); i-- > 0;)
+        side.push_back({side[i].x, -side[i].y});
+    side.back().bulge = QuarterTurn;
     Outline outline = side;
     while (outline.size() < 4 * side.size()) {
         const auto& [x, y, bulge] = outline[outline.size() - side.size()];
@@ -55,9 +49,8 @@ TopoDS_Shape addLidScrew(Solid& solid, const gp_Pnt& seat, double radius, double
 
 } // namespace
 
-Solid angleBracket(const Dimensions& given)
+void angleBracket(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double leg = given("Leg length");
     const double upright = given("Height");
     const double width = given("Width");
@@ -78,22 +71,18 @@ Solid angleBracket(const Dimensions& given)
         holes.push_back(hole(solid, {0, y, alongUpright}, {thickness, y, alongUpright}, radius));
     }
     solid.add(Material::Zinc, cut(prism(towardFront(width / 2), outline, width), holes));
-    return solid;
 }
 
-Solid aluminiumProfile(const Dimensions& given)
+void aluminiumProfile(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double length = given("Length");
     const TopoDS_Shape bore = hole(solid, {}, {length, 0, 0}, given("Core hole") / 2);
     solid.add(Material::Aluminium, cut(prism(acrossX(0), slottedSquare(given), length), {bore}));
     solid.telling = Side::Right;
-    return solid;
 }
 
-Solid pipeFlange(const Dimensions& given)
+void pipeFlange(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double radius = given("Outer diameter") / 2;
     const double thickness = given("Thickness");
     const double bore = given("Bore") / 2;
@@ -117,12 +106,10 @@ Solid pipeFlange(const Dimensions& given)
     solid.add(Material::Steel, cut(turned(frame, profile, bore), holes));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -end, 0), radius});
     solid.pitchCircles.push_back({frame, boltCircle, 0});
-    return solid;
 }
 
-Solid bridgeHandle(const Dimensions& given)
+void bridgeHandle(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double half = given("Hole spacing") / 2;
     const double radius = given("Grip diameter") / 2;
     const double middle = given("Height") - radius;
@@ -139,12 +126,10 @@ Solid bridgeHandle(const Dimensions& given)
     const std::vector<gp_Pnt> way{{-half, 0, foot}, {-half, 0, middle}, {half, 0, middle}, {half, 0, foot}};
     const TopoDS_Shape bar = bentBar(way, std::min(0.45 * middle, 2.5 * radius), radius);
     solid.add(Material::Aluminium, cut(bar, bores));
-    return solid;
 }
 
-Solid enclosure(const Dimensions& given)
+void enclosure(Solid& solid, const Dimensions& given)
 {
-    Solid solid;
     const double width = given("Width");
     const double depth = given("Depth");
     const double height = given("Height");
@@ -168,7 +153,6 @@ Solid enclosure(const Dimensions& given)
             recesses.push_back(addLidScrew(solid, {x, y, seat}, screw, lid));
     solid.add(Material::LightPlastic, cut(prism(raised({}, base), outline, lid), recesses));
     solid.telling = Side::Top;
-    return solid;
 }
 
 } // namespace devcatalog

@@ -51,21 +51,18 @@ TopoDS_Wire wireOf(const gp_Ax2& frame, const Outline& outline)
     return wire.Wire();
 }
 
-TopTools_ListOfShape listOf(const std::vector<TopoDS_Shape>& shapes)
-{
-    TopTools_ListOfShape list;
-    for (const TopoDS_Shape& shape : shapes)
-        list.Append(shape);
-    return list;
-}
-
 TopoDS_Shape combined(BOPAlgo_Operation kind, const TopoDS_Shape& shape,
                       const std::vector<TopoDS_Shape>& tools)
 {
+    TopTools_ListOfShape arguments;
+    arguments.Append(shape);
+    TopTools_ListOfShape others;
+    for (const TopoDS_Shape& tool : tools)
+        others.Append(tool);
     BRepAlgoAPI_BooleanOperation operation;
     operation.SetOperation(kind);
-    operation.SetArguments(listOf({shape}));
-    operation.SetTools(listOf(tools));
+    operation.SetArguments(arguments);
+    operation.SetTools(others);
     operation.Build();
     if (operation.HasErrors())
         throw Standard_Failure("shapes could not be combined");

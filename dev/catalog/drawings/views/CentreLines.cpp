@@ -1,4 +1,4 @@
-#include "dev/catalog/drawings/views/CentreLines.h"
+#include "dev/catalog/drawings/views/ViewLines.h"
 
 #include "dev/catalog/drawings/solids/Shapes.h"
 

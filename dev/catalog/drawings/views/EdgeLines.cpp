@@ -1,4 +1,4 @@
-#include "dev/catalog/drawings/views/EdgeLines.h"
+#include "dev/catalog/drawings/views/ViewLines.h"
 
 #include <BRepAdaptor_Curve.hxx>
 #include <BRepLib.hxx>

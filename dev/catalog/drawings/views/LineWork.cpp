@@ -1,5 +1,6 @@
 #include "dev/catalog/drawings/views/LineWork.h"
 
+#include "dev/catalog/drawings/solids/Shapes.h"
 #include "dev/catalog/drawings/views/PolylineChain.h"
 
 #include <ElCLib.hxx>
@@ -14,7 +15,6 @@ namespace devcatalog
 namespace
 {
 
-constexpr double Pi = 3.14159265358979323846;
 /// Distance in millimetres below which things coincide.
 constexpr double Tolerance = 1e-3;
 /// How far a polyline may be from its curve, in millimetres.

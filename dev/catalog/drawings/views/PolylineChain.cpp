@@ -17,22 +17,19 @@ dwg::Polyline turnedAround(const dwg::Polyline& line)
     return result;
 }
 
-class Chainer
-{
-public:
-    Chainer(std::vector<dwg::Polyline> pieces, double tolerance)
-        : m_pieces(std::move(pieces)), m_tolerance(tolerance), m_used(m_pieces.size(), false)
-    {
-    }
+struct Chainer {
+    std::vector<dwg::Polyline> pieces;
+    double tolerance;
+    std::vector<bool> used = std::vector<bool>(pieces.size());
 
     std::vector<dwg::Polyline> chains()
     {
         std::vector<dwg::Polyline> result;
-        for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-            if (m_used[i])
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            if (used[i])
                 continue;
-            m_used[i] = true;
-            dwg::Polyline chain = m_pieces[i];
+            used[i] = true;
+            dwg::Polyline chain = pieces[i];
             extend(chain);
             chain = turnedAround(chain);
             extend(chain);
@@ -42,21 +39,20 @@ public:
         return result;
     }
 
-private:
     bool meet(const dwg::Point2& a, const dwg::Point2& b) const
     {
-        return std::hypot(b.x - a.x, b.y - a.y) < m_tolerance;
+        return std::hypot(b.x - a.x, b.y - a.y) < tolerance;
     }
 
     /// @return the pieces that end in a point; twice the one that begins there too.
     std::vector<std::size_t> piecesAt(const dwg::Point2& point) const
     {
-        std::vector<std::size_t> pieces;
-        for (std::size_t i = 0; i < m_pieces.size(); ++i)
-            for (const dwg::PolylineVertex& end : {m_pieces[i].vertices.front(), m_pieces[i].vertices.back()})
+        std::vector<std::size_t> result;
+        for (std::size_t i = 0; i < pieces.size(); ++i)
+            for (const dwg::PolylineVertex& end : {pieces[i].vertices.front(), pieces[i].vertices.back()})
                 if (meet(end.point, point))
-                    pieces.push_back(i);
-        return pieces;
+                    result.push_back(i);
+        return result;
     }
 
     /// Appends pieces to the chain's end.
@@ -64,13 +60,13 @@ private:
     {
         for (;;) {
             const dwg::Point2 end = chain.vertices.back().point;
-            const std::vector<std::size_t> pieces = piecesAt(end);
-            if (pieces.size() != 2 || (m_used[pieces[0]] && m_used[pieces[1]]))
+            const std::vector<std::size_t> here = piecesAt(end);
+            if (here.size() != 2 || (used[here[0]] && used[here[1]]))
                 return;
-            const std::size_t next = m_used[pieces[0]] ? pieces[1] : pieces[0];
-            m_used[next] = true;
-            const bool forward = meet(m_pieces[next].vertices.front().point, end);
-            const auto& [vertices, closed] = forward ? m_pieces[next] : turnedAround(m_pieces[next]);
+            const std::size_t next = used[here[0]] ? here[1] : here[0];
+            used[next] = true;
+            const bool forward = meet(pieces[next].vertices.front().point, end);
+            const auto& [vertices, closed] = forward ? pieces[next] : turnedAround(pieces[next]);
             chain.vertices.back().bulge = vertices.front().bulge;
             chain.vertices.insert(chain.vertices.end(), vertices.begin() + 1, vertices.end());
         }
@@ -84,17 +80,13 @@ private:
         if (chain.closed)
             chain.vertices.pop_back();
     }
-
-    std::vector<dwg::Polyline> m_pieces;
-    double m_tolerance;
-    std::vector<bool> m_used;
 };
 
 } // namespace
 
 std::vector<dwg::Polyline> chainPolylines(std::vector<dwg::Polyline> pieces, double tolerance)
 {
-    return Chainer(std::move(pieces), tolerance).chains();
+    return Chainer{std::move(pieces), tolerance}.chains();
 }
 
 } // namespace devcatalog

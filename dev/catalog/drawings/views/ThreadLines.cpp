@@ -1,4 +1,4 @@
-#include "dev/catalog/drawings/views/ThreadLines.h"
+#include "dev/catalog/drawings/views/ViewLines.h"
 
 #include "dev/catalog/drawings/solids/Shapes.h"
 

@@ -1,9 +1,7 @@
 #include "dev/catalog/drawings/views/ViewDrawing.h"
 
 #include "dev/catalog/drawings/solids/Shapes.h"
-#include "dev/catalog/drawings/views/CentreLines.h"
-#include "dev/catalog/drawings/views/EdgeLines.h"
-#include "dev/catalog/drawings/views/ThreadLines.h"
+#include "dev/catalog/drawings/views/ViewLines.h"
 
 namespace devcatalog
 {
