@@ -104,6 +104,7 @@ QWidget* PanelFixture::row(int index) const
 
 void PanelFixture::clickThumbnail(int index)
 {
+    QTRY_VERIFY(row(index) != nullptr);
     QTest::mouseClick(row(index)->findChild<QPushButton*>("iconpushButton"), Qt::LeftButton);
 }
 

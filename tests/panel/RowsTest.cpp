@@ -53,9 +53,11 @@ private slots:
     void lateThumbnailFollowsItsRow();
 
 private:
+    /// @return nothing while the row is not shown.
     QString textOf(int row, const QString& label) const
     {
-        return m_panel->row(row)->findChild<QLabel*>(label)->text();
+        const QWidget* shown = m_panel->row(row);
+        return shown == nullptr ? QString() : shown->findChild<QLabel*>(label)->text();
     }
     QList<TableItem*> rows() const { return m_panel->container()->findChildren<TableItem*>(); }
     void turnPage();
@@ -157,7 +159,7 @@ void RowsTest::furtherRowsAreNeverVisible()
     m_panel->window().setCurrentIndex(0); // the rows are made while their tab is hidden
     QTRY_COMPARE(rows().size(), 7);
     m_panel->window().setCurrentIndex(1);
-    QTRY_VERIFY(m_panel->row(4)->isVisible());
+    QTRY_VERIFY(m_panel->row(4) != nullptr);
     QTRY_COMPARE(m_panel->service().requests("/pictures/part.png").size(), 7); // all fetch theirs
     int visible = 0;
     for (const TableItem* row : rows())
