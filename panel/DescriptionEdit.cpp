@@ -13,7 +13,6 @@ void DescriptionEdit::mousePressEvent(QMouseEvent* event)
     QTextEdit::mousePressEvent(event);
 }
 
-void DescriptionEdit::showEvent(QShowEvent* event)
+void DescriptionEdit::showEvent(QShowEvent* /*event*/)
 {
-    QAbstractScrollArea::showEvent(event);
 }
