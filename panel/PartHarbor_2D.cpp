@@ -9,6 +9,7 @@
 #include "panel/RowHeights.h"
 #include "panel/SettledLayout.h"
 #include "panel/TableItem.h"
+#include "service/PictureThread.h"
 #include "service/SessionValues.h"
 #include "service/SoapReply.h"
 #include "service/SoapRequest.h"
@@ -36,7 +37,8 @@ PartHarbor_2D::PartHarbor_2D(pvApplication_c* application, QWidget* parent)
       m_form(std::make_unique<Ui::PartHarbor_2D>()),
       m_parentWidget(parent),
       m_parentLayout(qobject_cast<QGridLayout*>(parent->layout())),
-      m_pageButtons(std::make_unique<PageButtonGroup>())
+      m_pageButtons(std::make_unique<PageButtonGroup>()),
+      m_pictures(PictureThread::shared())
 {
     m_form->setupUi(this);
     m_rowHeights = new RowHeights(m_form->tableWidget);
@@ -139,8 +141,10 @@ void PartHarbor_2D::showRows()
 void PartHarbor_2D::settle()
 {
     m_form->tableWidget->doItemsLayout();
+    const QPointer<PromptView> table(m_promptTable);
     settleLayout(m_form->tableWidget->viewport());
-    m_promptTable->follow();
+    if (!table.isNull()) // the pane may have gone
+        table->follow();
 }
 
 void PartHarbor_2D::removeRows()

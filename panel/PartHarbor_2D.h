@@ -14,6 +14,7 @@ class PV3DPartHarbor_2D;
 class QAbstractButton;
 class QGridLayout;
 class QNetworkReply;
+class PictureThread;
 class PromptView;
 class RowHeights;
 class TableItem;
@@ -48,6 +49,7 @@ public:
 
     /// The last reply's document; a row looks its preview up in it.
     const XMLParser& parser() const { return *m_parser; }
+    PictureThread& pictures() const { return *m_pictures; }
     pvApplication_c* application() const { return m_application; }
     /// The container that the page was made for.
     QWidget* container() const { return m_parentWidget; }
@@ -95,4 +97,5 @@ private:
     QString m_releasedText;
     RowHeights* m_rowHeights = nullptr;
     PromptView* m_promptTable = nullptr;
+    std::shared_ptr<PictureThread> m_pictures;
 };

@@ -26,6 +26,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPointer>
 #include <QTableWidget>
 
 namespace
@@ -184,10 +185,16 @@ void PreviewUI::showPreview(const QPixmap& picture)
 
 void PreviewUI::settle()
 {
-    settleLayout(m_configTable);
-    QCoreApplication::sendPostedEvents(m_configTable->verticalHeader(), QEvent::MetaCall);
-    settleLayout(m_configTable);
-    QCoreApplication::sendPostedEvents(m_form->preview_page, QEvent::MetaCall);
+    if (isHidden()) // left meanwhile, its sections gone
+        return;
+    const QPointer<QTableWidget> table(m_configTable); // the pane may go as the host lays out
+    settleLayout(table);
+    if (!table.isNull())
+        QCoreApplication::sendPostedEvents(table->verticalHeader(), QEvent::MetaCall);
+    if (!table.isNull())
+        settleLayout(table);
+    if (!table.isNull())
+        QCoreApplication::sendPostedEvents(m_form->preview_page, QEvent::MetaCall);
 }
 
 void PreviewUI::CategoryButtonPressed(int id)

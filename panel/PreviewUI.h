@@ -49,6 +49,7 @@ public:
     void showPreview(const QPixmap& picture);
 
 public slots:
+    /// To be called once the page has been shown: lays it out, before it is painted.
     void settle();
     void CategoryButtonPressed(int id);
     /// Leaves for a new results page of the same search.

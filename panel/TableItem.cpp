@@ -33,10 +33,7 @@ int heightWithIcon(const QPushButton* button)
 } // namespace
 
 TableItem::TableItem(PartHarbor_2D* page, QWidget* parent)
-    : QWidget(parent),
-      m_form(std::make_unique<Ui::TableItem>()),
-      m_page(page),
-      m_pictures(PictureThread::shared())
+    : QWidget(parent), m_form(std::make_unique<Ui::TableItem>()), m_page(page)
 {
     m_form->setupUi(this);
     // Kept free from the start, so that no row, and nothing around it, is laid out anew when a picture comes.
@@ -87,8 +84,8 @@ QWidget* TableItem::followInTabOrder(QWidget* previous)
 void TableItem::Iamgedata(QNetworkReply* pReply)
 {
     // No larger than the sharpest screen shows it.
-    m_pictures->decode(takeBody(pReply), IconSize * qApp->devicePixelRatio(), this,
-                       SLOT(showThumbnail(const QImage&)));
+    m_page->pictures().decode(takeBody(pReply), IconSize * qApp->devicePixelRatio(), this,
+                              SLOT(showThumbnail(const QImage&)));
 }
 
 void TableItem::showThumbnail(const QImage& image)
@@ -125,7 +122,7 @@ void TableItem::Preview()
 
 void TableItem::PreviewDownloaded(QNetworkReply* pReply)
 {
-    m_pictures->decode(takeBody(pReply), MaximumPictureSize, this, SLOT(showPreview(const QImage&)));
+    m_page->pictures().decode(takeBody(pReply), MaximumPictureSize, this, SLOT(showPreview(const QImage&)));
 }
 
 void TableItem::showPreview(const QImage& image)

@@ -5,7 +5,6 @@
 #include <memory>
 
 class PartHarbor_2D;
-class PictureThread;
 class PreviewUI;
 class QImage;
 class QNetworkReply;
@@ -57,5 +56,4 @@ private:
     std::unique_ptr<Ui::TableItem> m_form;
     PreviewUI* m_detailPage = nullptr;
     PartHarbor_2D* m_page;
-    std::shared_ptr<PictureThread> m_pictures;
 };

@@ -13,8 +13,8 @@ class QObject;
 class PictureThread
 {
 public:
-    /// @return the one there is. Kept by all who want pictures: it goes with the last of them, and thereby
-    ///         before the add-in is unloaded.
+    /// @return the one there is. Kept by the pages that want pictures: it goes with the last of them,
+    ///         and thereby before the add-in is unloaded.
     static std::shared_ptr<PictureThread> shared();
 
     PictureThread();

@@ -18,6 +18,25 @@ namespace
 
 const QString NoKeyText = "Server was unable to process request. Invalid key string.";
 
+/// A host's tabs that destroy what is in one of them when they are asked for a layout.
+class ClosingHost : public QObject
+{
+public:
+    ClosingHost(QTabWidget& tabs, QWidget* pane) : m_pane(pane) { tabs.installEventFilter(this); }
+    bool hasClosed() const { return m_pane.isNull(); }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            delete m_pane;
+        return false;
+    }
+
+private:
+    QPointer<QWidget> m_pane;
+};
+
 } // namespace
 
 /// The way between the pages, and the page numbers that are asked for.
@@ -39,6 +58,8 @@ private slots:
     void searchNeedsAKey();
     void searchLineOutlivesItsKey();
     void panelSwallowsItsEvents();
+    void hostClosesThePaneAsItLaysOut_data();
+    void hostClosesThePaneAsItLaysOut();
 
 private:
     void clickBack() { m_panel->click("pushButton"); }
@@ -249,6 +270,26 @@ void NavigationTest::panelSwallowsItsEvents()
         told = 1;
         QCOMPARE(clicks.size(), told);
     }
+}
+
+void NavigationTest::hostClosesThePaneAsItLaysOut_data()
+{
+    QTest::addColumn<bool>("opensPart");
+    QTest::addRow("results") << false;
+    QTest::addRow("detail page") << true;
+}
+
+void NavigationTest::hostClosesThePaneAsItLaysOut()
+{
+    QFETCH(bool, opensPart);
+    if (opensPart)
+        m_panel->showResults();
+    const ClosingHost host(m_panel->window(), m_panel->container());
+    if (opensPart)
+        m_panel->clickThumbnail(0);
+    else
+        m_panel->searchFor("bolt");
+    QTRY_VERIFY(host.hasClosed());
 }
 
 QTEST_MAIN(NavigationTest)
