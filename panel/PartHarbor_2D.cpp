@@ -133,6 +133,8 @@ void PartHarbor_2D::fillTable()
 
 void PartHarbor_2D::showRows()
 {
+    if (isHidden()) // left meanwhile
+        return;
     m_rowHeights->fit();
     m_form->tableWidget->viewport()->show();
     settle();

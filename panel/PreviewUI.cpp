@@ -170,6 +170,8 @@ void PreviewUI::showRow(TableItem* row)
 
 void PreviewUI::showPreview(const QPixmap& picture)
 {
+    if (isHidden()) // left meanwhile, its sections gone
+        return;
     if (picture.isNull()) {
         m_preview_label->clear();
         m_preview_label->setMinimumWidth(m_preview_label->width()); // there must be something to click on

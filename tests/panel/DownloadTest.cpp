@@ -3,6 +3,7 @@
 #include "service/SessionValues.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
+#include "tests/support/EventCounter.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,24 +23,6 @@ namespace
 const QByteArray Drawing = "AC1015 a drawing";
 const QString DrawingPath = "/files/part.dwg";
 const BlockPromptAnswer AcceptedAnswer{BlockPromptAnswer::Accepted, {1, 2, 3, 4, 5, 6, 7}};
-
-/// Counts the events of an object.
-class EventCounter : public QObject
-{
-public:
-    explicit EventCounter(QObject* watched) { watched->installEventFilter(this); }
-    int count(QEvent::Type type) const { return m_types.count(type); }
-
-protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        m_types.append(event->type());
-        return false;
-    }
-
-private:
-    QList<QEvent::Type> m_types;
-};
 
 void writeFile(const QString& name, const QByteArray& content)
 {
@@ -289,7 +272,7 @@ void DownloadTest::unusableFileNames()
     m_panel->offerDrawing(path, pictureReply(Drawing));
     auto* frame = m_panel->shown<PreviewUI>()->findChild<QWidget*>("frame");
     QCoreApplication::processEvents();
-    EventCounter counter(frame);
+    test::EventCounter counter(frame);
     m_panel->clickPreview();
     QTRY_COMPARE(g_downloadCounter, 1);
     QCoreApplication::processEvents();

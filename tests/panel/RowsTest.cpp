@@ -2,6 +2,7 @@
 #include "panel/TableItem.h"
 #include "tests/panel/PanelFixture.h"
 #include "tests/support/CannedReplies.h"
+#include "tests/support/EventCounter.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -51,6 +52,7 @@ private slots:
     void openedRowLeavesItsTable();
     void openedRowSurvivesALateReply();
     void lateThumbnailFollowsItsRow();
+    void rowsArePaintedOnce();
 
 private:
     /// @return nothing while the row is not shown.
@@ -272,6 +274,29 @@ void RowsTest::lateThumbnailFollowsItsRow()
     QVERIFY(button->icon().isNull());
     m_panel->service().releaseAll();
     QTRY_VERIFY(!button->icon().isNull());
+}
+
+void RowsTest::rowsArePaintedOnce()
+{
+    test::ScriptedService& service = m_panel->service();
+    service.setReply(SearchOperationName, searchReply(hits(5)).held());
+    service.setReply("/pictures/part.png", test::pictureReply({}).held());
+    m_panel->searchFor("bolt");
+    QTRY_COMPARE(service.heldCount(), 1);
+    const test::EventCounter results(m_panel->shown<QTableWidget>("tableWidget")->viewport());
+    service.releaseAll();
+    QTRY_COMPARE(service.heldCount(), 5); // the pictures
+    QTRY_VERIFY(m_panel->row(0) != nullptr);
+    QTRY_VERIFY(results.count(QEvent::Paint) > 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(results.count(QEvent::Paint), 1);
+
+    m_panel->clickThumbnail(0);
+    const test::EventCounter detail(m_panel->shown<QTableWidget>()->viewport());
+    // Until the configuration is there, for which its line has been kept free.
+    QTRY_COMPARE(service.requests(test::ConfigParamsOperationName).size(), 1);
+    QTRY_COMPARE(service.openConnections(), 2); // the row's picture and the preview's
+    QCOMPARE(detail.count(QEvent::Paint), 1);
 }
 
 QTEST_MAIN(RowsTest)
