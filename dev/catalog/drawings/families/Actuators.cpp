@@ -83,8 +83,8 @@ void pneumaticCylinder(Solid& solid, const Dimensions& given)
     const double front = length + barrel;
     const double end = front + length;
     addCover(solid, given, cover(size, 0, length), 0, length);
-    const TopoDS_Shape neck = cylinder(acrossX(front), 0.4 * size, 1.35 * length);
-    addCover(solid, given, fused(cover(size, front, length), neck), end, -length);
+    const TopoDS_Shape neck = cylinder(acrossX(end), 0.4 * size, 0.35 * length);
+    addCover(solid, given, joined(cover(size, front, length), neck, {acrossX(end)}), end, -length);
     solid.add(Material::Aluminium, cylinder(acrossX(length), 0.56 * given("Bore"), barrel));
     for (const gp_Pnt& corner : squarePattern(given("Screw spacing"), length))
         solid.add(Material::Steel, cylinder(gp_Ax2(corner, gp::DX()), 0.4 * given("Screw diameter"), barrel));
@@ -92,8 +92,9 @@ void pneumaticCylinder(Solid& solid, const Dimensions& given)
     const double rodEnd = neckEnd + 0.6 * length;
     const double thread = given("Thread length");
     const TopoDS_Shape rod = cylinder(acrossX(neckEnd), given("Rod diameter") / 2, rodEnd - neckEnd);
-    solid.add(Material::Steel, fused(rod, threadedShank(solid, acrossX(rodEnd), given("Rod thread"),
-                                                        given("Rod thread pitch"), thread, thread)));
+    const TopoDS_Shape tip =
+        threadedShank(solid, acrossX(rodEnd), given("Rod thread"), given("Rod thread pitch"), thread, thread);
+    solid.add(Material::Steel, joined(rod, tip, {acrossX(rodEnd)}));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(rodEnd + thread, 0, 0), size / 2});
 }
 
@@ -127,7 +128,7 @@ void stepperMotor(Solid& solid, const Dimensions& given)
     const std::vector<TopoDS_Shape> holes =
         mountingHoles(solid, given("Hole spacing"), given("Hole diameter") / 2, 0, -0.6 * flange);
     const TopoDS_Shape boss = cylinder(acrossX(0), pilot, pilotHeight);
-    solid.add(Material::Aluminium, cut(fused(cover(size, -flange, flange), boss), holes));
+    solid.add(Material::Aluminium, cut(joined(cover(size, -flange, flange), boss, {acrossX(0)}), holes));
     solid.add(Material::Aluminium, cover(size, -length, flange));
     // The stack of sheets between the covers has its corners cut off.
     const double half = 0.485 * size;

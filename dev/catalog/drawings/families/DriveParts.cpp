@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <stdexcept>
 
 namespace devcatalog
@@ -69,26 +68,21 @@ void addShields(Solid& solid, const gp_Ax2& frame, const BearingSize& size, Mate
 /// @return a bore with a keyway at the top. Keyways by shaft diameter as in DIN 6885-1.
 Outline keyedBore(double diameter)
 {
-    struct Keyway {
-        double largestShaft;
-        double width;
-        double depthInHub;
-    };
-    static constexpr Keyway keyways[] = {{8, 2, 1},     {10, 3, 1.4}, {12, 4, 1.8},  {17, 5, 2.3},
-                                         {22, 6, 2.8},  {30, 8, 3.3}, {38, 10, 3.3}, {44, 12, 3.3},
-                                         {50, 14, 3.8}, {58, 16, 4.3}};
-    const auto keyway = std::find_if(std::begin(keyways), std::end(keyways), [diameter](const Keyway& each) {
-        return diameter <= each.largestShaft;
-    });
-    if (keyway == std::end(keyways))
-        throw std::invalid_argument("no keyway for so large a bore");
-    const double radius = diameter / 2;
-    const double half = keyway->width / 2;
-    const double angle = std::asin(half / radius);
-    const double shoulder = radius * std::cos(angle);
-    const double top = radius + keyway->depthInHub;
-    return {
-        {-half, shoulder, std::tan((2 * Pi - 2 * angle) / 4)}, {half, shoulder}, {half, top}, {-half, top}};
+    // The largest shaft, the width and the depth in the hub.
+    static constexpr double keyways[][3] = {{8, 2, 1},     {10, 3, 1.4}, {12, 4, 1.8},  {17, 5, 2.3},
+                                            {22, 6, 2.8},  {30, 8, 3.3}, {38, 10, 3.3}, {44, 12, 3.3},
+                                            {50, 14, 3.8}, {58, 16, 4.3}};
+    for (const auto& [largestShaft, width, depth] : keyways) {
+        if (diameter > largestShaft)
+            continue;
+        const double radius = diameter / 2;
+        const double half = width / 2;
+        const double top = radius + depth;
+        const double angle = std::asin(half / radius);
+        const double shoulder = radius * std::cos(angle);
+        return {{-half, shoulder, std::tan((Pi - angle) / 2)}, {half, shoulder}, {half, top}, {-half, top}};
+    }
+    throw std::invalid_argument("no keyway for so large a bore");
 }
 
 /// The profile of a belt pulley's grooves.
@@ -158,12 +152,12 @@ void spurGear(Solid& solid, const Dimensions& given)
     const double tip = module * (teeth + 2) / 2;
     const gp_Ax2 frame = towardFront();
     const Outline bore = keyedBore(given("Bore"));
-    const TopoDS_Shape hub =
-        prism(raised(frame, width), circle(given("Hub diameter") / 2), length - width, bore);
+    const gp_Ax2 seat = raised(frame, width);
+    const TopoDS_Shape hub = prism(seat, circle(given("Hub diameter") / 2), length - width, bore);
     // Seen from the side, gears are drawn without their teeth (ISO 2203).
     solid.bodies.push_back({Material::Steel,
-                            fused(prism(frame, toothOutline(module, teeth), width, bore), hub), true,
-                            fused(prism(frame, circle(tip), width, bore), hub)});
+                            joined(prism(frame, toothOutline(module, teeth), width, bore), hub, {seat}), true,
+                            joined(prism(frame, circle(tip), width, bore), hub, {seat})});
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, -length, 0), tip});
     solid.pitchCircles.push_back({frame, module * teeth / 2, width});
 }

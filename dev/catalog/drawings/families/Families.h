@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dev/catalog/drawings/families/Dimensions.h"
 #include "dev/catalog/drawings/solids/Solid.h"
+#include "dev/catalog/parts/Dimensions.h"
 
 namespace devcatalog
 {

@@ -19,7 +19,7 @@ void addBolt(Solid& solid, const TopoDS_Shape& head, double headRadius, const Di
     const gp_Ax2 frame(gp_Pnt(), gp::DX(), gp::DZ());
     const TopoDS_Shape shank = threadedShank(solid, frame, given("Thread diameter"), given("Pitch"), length,
                                              given.text("Thread") == "partial" ? partialThread : length);
-    solid.add(Material::Steel, fused(head, shank));
+    solid.add(Material::Steel, joined(head, shank, {frame}));
     solid.axes.push_back({gp_Pnt(-given("Head height"), 0, 0), gp_Pnt(length, 0, 0), headRadius});
 }
 
@@ -60,10 +60,10 @@ void socketScrew(Solid& solid, const Dimensions& given)
     const gp_Ax2 frame(gp_Pnt(), -gp::DX(), gp::DZ());
     const TopoDS_Shape head =
         turned(frame, {{radius, 0}, {radius, height - rounding, QuarterTurn}, {radius - rounding, height}});
-    const TopoDS_Shape socket =
-        prism(raised(frame, height - depth), hexagon(given("Socket size")), 2 * depth);
+    const TopoDS_Shape socket = prism(raised(frame, height - depth), hexagon(given("Socket size")), depth);
     // ISO 4762.
-    addBolt(solid, cut(head, {socket}), radius, given, 2 * given("Thread diameter") + 12);
+    addBolt(solid, joined(head, socket, {raised(frame, height)}), radius, given,
+            2 * given("Thread diameter") + 12);
 }
 
 void dowelPin(Solid& solid, const Dimensions& given)
@@ -83,7 +83,7 @@ void hexNut(Solid& solid, const Dimensions& given)
     const double height = given("Height");
     const double flats = given("Width across flats");
     const TopoDS_Shape bore = threadedBore(solid, {}, given("Thread diameter"), given("Pitch"), height);
-    solid.add(Material::Steel, cut(hexagonHead({}, flats, height, true), {bore}));
+    solid.add(Material::Steel, joined(hexagonHead({}, flats, height, true), bore, {{}, raised({}, height)}));
     solid.axes.push_back({gp_Pnt(), gp_Pnt(0, 0, height), flats / std::sqrt(3.0)});
     solid.telling = Side::Top;
 }
@@ -108,7 +108,7 @@ void starKnob(Solid& solid, const Dimensions& given)
     const Outline star = starOutline(given.count("Lobes"), radius);
     const TopoDS_Shape grip = prism(raised({}, hubHeight), star, height - cap - hubHeight);
     const TopoDS_Shape neck = turned({}, {{0.9 * hub, 0}, {hub, hubHeight}});
-    solid.add(Material::DarkPlastic, fused(grip, neck));
+    solid.add(Material::DarkPlastic, joined(grip, neck, {raised({}, hubHeight)}));
     solid.add(Material::ColouredPlastic, cylinder(raised({}, height - cap), 0.45 * radius, cap));
     const gp_Ax2 down(gp_Pnt(), -gp::DZ(), gp::DX());
     solid.add(Material::Steel,

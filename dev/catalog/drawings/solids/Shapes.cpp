@@ -1,20 +1,28 @@
 #include "dev/catalog/drawings/solids/Shapes.h"
 
-#include <BRepAlgoAPI_BooleanOperation.hxx>
+#include <BRepAdaptor_Surface.hxx>
+#include <BRepAlgoAPI_Common.hxx>
+#include <BRepAlgoAPI_Cut.hxx>
 #include <BRepBuilderAPI_MakeEdge.hxx>
 #include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepBuilderAPI_MakeWire.hxx>
+#include <BRepBuilderAPI_Transform.hxx>
+#include <BRepLib.hxx>
 #include <BRepOffsetAPI_MakePipe.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakePrism.hxx>
 #include <BRepPrimAPI_MakeRevol.hxx>
 #include <ElSLib.hxx>
 #include <GC_MakeArcOfCircle.hxx>
+#include <LocOpe_FindEdges.hxx>
+#include <LocOpe_Gluer.hxx>
+#include <TopExp_Explorer.hxx>
 #include <TopTools_ListOfShape.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Edge.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Wire.hxx>
+#include <gp_Ax3.hxx>
 #include <gp_Circ.hxx>
 
 #include <cmath>
@@ -51,23 +59,32 @@ TopoDS_Wire wireOf(const gp_Ax2& frame, const Outline& outline)
     return wire.Wire();
 }
 
-TopoDS_Shape combined(BOPAlgo_Operation kind, const TopoDS_Shape& shape,
-                      const std::vector<TopoDS_Shape>& tools)
+/// @return the shape's face that lies in the xy plane of a frame.
+TopoDS_Face faceIn(const gp_Ax2& plane, const TopoDS_Shape& shape)
 {
-    TopTools_ListOfShape arguments;
-    arguments.Append(shape);
-    TopTools_ListOfShape others;
-    for (const TopoDS_Shape& tool : tools)
-        others.Append(tool);
-    BRepAlgoAPI_BooleanOperation operation;
-    operation.SetOperation(kind);
-    operation.SetArguments(arguments);
-    operation.SetTools(others);
-    operation.Build();
-    if (operation.HasErrors())
-        throw Standard_Failure("shapes could not be combined");
-    operation.SimplifyResult();
-    return operation.Shape();
+    for (TopExp_Explorer each(shape, TopAbs_FACE); each.More(); each.Next()) {
+        const BRepAdaptor_Surface surface(TopoDS::Face(each.Current()), false);
+        if (surface.GetType() == GeomAbs_Plane && surface.Plane().Distance(plane.Location()) < 1e-6 &&
+            surface.Plane().Axis().IsParallel(plane.Axis(), 1e-6))
+            return surface.Face();
+    }
+    throw Standard_Failure("shapes do not touch");
+}
+
+constexpr double EndHeight = 0.065; ///< How much of a hexagon has its chamfer, of the width across flats.
+
+/// The chamfered end of a hexagon. It takes the kernel long, so all are copies of one.
+TopoDS_Shape chamferedEnd(const gp_Ax2& frame, double flats)
+{
+    static const TopoDS_Shape unit = [] {
+        constexpr double face = 0.475; // the radius of the flat left by the chamfer
+        const Outline profile{{face + EndHeight / std::tan(Pi / 6), 0}, {face, EndHeight}};
+        return BRepAlgoAPI_Common(prism({}, hexagon(1), 2 * EndHeight), turned({}, profile)).Shape();
+    }();
+    gp_Trsf placed;
+    placed.SetDisplacement(gp_Ax3(), gp_Ax3(frame));
+    placed.SetScaleFactor(flats);
+    return BRepBuilderAPI_Transform(unit, placed, true);
 }
 
 } // namespace
@@ -131,7 +148,12 @@ TopoDS_Shape prism(const gp_Ax2& frame, const Outline& outline, double height, c
     BRepBuilderAPI_MakeFace face(wireOf(frame, outline), true);
     if (!hole.empty())
         face.Add(TopoDS::Wire(wireOf(frame, hole).Reversed()));
-    return BRepPrimAPI_MakePrism(face.Face(), height * gp_Vec(frame.Direction()));
+    const TopoDS_Shape shape = BRepPrimAPI_MakePrism(face.Face(), height * gp_Vec(frame.Direction()));
+    // The kernel else finds the curves of edges on planes anew each time that it needs them.
+    for (TopExp_Explorer side(shape, TopAbs_FACE); side.More(); side.Next())
+        for (TopExp_Explorer edge(side.Current(), TopAbs_EDGE); edge.More(); edge.Next())
+            BRepLib::BuildPCurveForEdgeOnPlane(TopoDS::Edge(edge.Current()), TopoDS::Face(side.Current()));
+    return shape;
 }
 
 TopoDS_Shape revolved(const gp_Ax2& frame, const Outline& outline)
@@ -151,13 +173,13 @@ TopoDS_Shape turned(const gp_Ax2& frame, Outline profile, double bore)
 
 TopoDS_Shape hexagonHead(const gp_Ax2& frame, double flats, double height, bool bothEnds)
 {
-    const double corner = 1.01 * flats / std::sqrt(3.0);
-    const double face = 0.475 * flats; // the radius of the flat left by the chamfer
-    const double rise = (corner - face) * std::tan(Pi / 6);
-    Outline profile{{corner, 0}, {corner, height - rise}, {face, height}};
-    if (bothEnds)
-        profile = {{face, 0}, {corner, rise}, {corner, height - rise}, {face, height}};
-    return combined(BOPAlgo_COMMON, prism(frame, hexagon(flats), height), {turned(frame, profile)});
+    const double end = EndHeight * flats;
+    const gp_Ax2 top = raised(frame, height - end);
+    const gp_Ax2 bottom = raised(frame, bothEnds ? end : 0);
+    const TopoDS_Shape body = prism(bottom, hexagon(flats), height - (bothEnds ? 2 : 1) * end);
+    const TopoDS_Shape head = joined(body, chamferedEnd(top, flats), {top});
+    const gp_Ax2 down(bottom.Location(), -bottom.Direction(), bottom.XDirection());
+    return bothEnds ? joined(head, chamferedEnd(down, flats), {down}) : head;
 }
 
 TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, double radius)
@@ -181,14 +203,38 @@ TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, doub
     return BRepOffsetAPI_MakePipe(wire.Wire(), BRepBuilderAPI_MakeFace(edge).Face()).Shape();
 }
 
-TopoDS_Shape fused(const TopoDS_Shape& shape, const TopoDS_Shape& other)
+TopoDS_Shape joined(const TopoDS_Shape& shape, const TopoDS_Shape& other, const std::vector<gp_Ax2>& planes)
 {
-    return combined(BOPAlgo_FUSE, shape, {other});
+    LocOpe_Gluer gluer(shape, other);
+    for (const gp_Ax2& plane : planes) {
+        const TopoDS_Face face = faceIn(plane, shape);
+        const TopoDS_Face touching = faceIn(plane, other);
+        gluer.Bind(touching, face);
+        LocOpe_FindEdges shared(touching, face);
+        for (shared.InitIterator(); shared.More(); shared.Next())
+            gluer.Bind(shared.EdgeFrom(), shared.EdgeTo());
+    }
+    gluer.Perform();
+    if (!gluer.IsDone())
+        throw Standard_Failure("shapes could not be joined");
+    return gluer.ResultingShape();
 }
 
 TopoDS_Shape cut(const TopoDS_Shape& shape, const std::vector<TopoDS_Shape>& tools)
 {
-    return combined(BOPAlgo_CUT, shape, tools);
+    TopTools_ListOfShape arguments;
+    arguments.Append(shape);
+    TopTools_ListOfShape others;
+    for (const TopoDS_Shape& tool : tools)
+        others.Append(tool);
+    BRepAlgoAPI_Cut operation;
+    operation.SetArguments(arguments);
+    operation.SetTools(others);
+    operation.Build();
+    if (operation.HasErrors())
+        throw Standard_Failure("shapes could not be cut");
+    operation.SimplifyResult();
+    return operation.Shape();
 }
 
 } // namespace devcatalog

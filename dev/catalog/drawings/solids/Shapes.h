@@ -70,8 +70,10 @@ TopoDS_Shape hexagonHead(const gp_Ax2& frame, double flats, double height, bool 
 /// @return a round bar along straight lines, with bends of this radius where they meet.
 TopoDS_Shape bentBar(const std::vector<gp_Pnt>& corners, double bendRadius, double radius);
 
-/// @return shapes as one, without the edges where surfaces go on.
-TopoDS_Shape fused(const TopoDS_Shape& shape, const TopoDS_Shape& other);
+/// Joins shapes whose faces meet in planes, where those of the other lie within those of the shape; if the
+/// other lies inside the shape, what is left is returned. It is far cheaper than cut().
+/// @param planes each z axis is normal to one.
+TopoDS_Shape joined(const TopoDS_Shape& shape, const TopoDS_Shape& other, const std::vector<gp_Ax2>& planes);
 
 TopoDS_Shape cut(const TopoDS_Shape& shape, const std::vector<TopoDS_Shape>& tools);
 

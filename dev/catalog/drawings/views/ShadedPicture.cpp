@@ -20,10 +20,10 @@ namespace devcatalog
 namespace
 {
 
-constexpr int Oversampling = 4;
+constexpr int Oversampling = 3;
 constexpr double Margin = 0.05;
 /// How far a triangle may be from its surface, of the picture's larger side.
-constexpr double Deviation = 5e-4;
+constexpr double Deviation = 1e-3;
 
 /// From millimetres in a view to pixels, with y down.
 QTransform fitTo(const dwg::Extents& extents, int width, int height)
@@ -45,7 +45,7 @@ public:
           m_light(-0.45 * camera.right.XYZ() + 0.65 * camera.up.XYZ() + 0.75 * camera.toward.XYZ()),
           m_glance(gp_Dir(m_light.XYZ() + camera.toward.XYZ())),
           m_depths(static_cast<std::size_t>(m_image.width()) * static_cast<std::size_t>(m_image.height()),
-                   -std::numeric_limits<double>::infinity())
+                   -std::numeric_limits<float>::infinity())
     {
         m_image.fill(Qt::transparent);
     }
@@ -108,7 +108,7 @@ private:
             right = std::max(right, x);
         }
         auto* pixels = reinterpret_cast<QRgb*>(m_image.scanLine(row));
-        double* depths = m_depths.data() + static_cast<std::ptrdiff_t>(row) * m_image.width();
+        float* depths = m_depths.data() + static_cast<std::ptrdiff_t>(row) * m_image.width();
         const int last = std::min(m_image.width() - 1, static_cast<int>(std::ceil(right - 0.5)) - 1);
         for (int column = std::max(0, static_cast<int>(std::ceil(left - 0.5))); column <= last; ++column) {
             const QPointF at(column + 0.5, y);
@@ -117,7 +117,7 @@ private:
             const auto mean = [&](double Corner::*value) {
                 return a * corners[0].*value + b * corners[1].*value + (1 - a - b) * corners[2].*value;
             };
-            const double depth = mean(&Corner::depth);
+            const auto depth = static_cast<float>(mean(&Corner::depth));
             if (depth <= depths[column])
                 continue;
             depths[column] = depth;
@@ -139,7 +139,7 @@ private:
     QColor m_colour;
     gp_Dir m_light;
     gp_Dir m_glance; ///< Normal of surfaces that mirror the light to the viewer.
-    std::vector<double> m_depths;
+    std::vector<float> m_depths;
 };
 
 /// The lines of a pictorial view, which are made of straight pieces: the turns of threads or all others.

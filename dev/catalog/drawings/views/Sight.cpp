@@ -3,6 +3,8 @@
 #include <BRep_Builder.hxx>
 #include <TopoDS_Compound.hxx>
 
+#include <algorithm>
+
 namespace devcatalog
 {
 
@@ -37,14 +39,15 @@ std::vector<Sight::Piece> Sight::split(double from, double to, const std::functi
                                        int steps, double beginning)
 {
     const double step = (to - from) / steps;
-    std::vector<Piece> pieces{{from, to, isFree(place(from + step / 2), beginning)}};
-    for (int i = 1; i < steps; ++i) {
+    const auto look = [=](int i) { return from + std::clamp(i - 0.5, 0.02, steps - 0.02) * step; };
+    std::vector<Piece> pieces{{from, to, isFree(place(look(0)), beginning)}};
+    for (int i = 1; i <= steps + 1; ++i) {
         Piece& last = pieces.back();
-        double before = from + (i - 0.5) * step;
-        double after = before + step;
+        double before = look(i - 1);
+        double after = look(i);
         if (isFree(place(after), beginning) == last.visible)
             continue;
-        constexpr int halvings = 20;
+        constexpr int halvings = 14;
         for (int halving = 0; halving < halvings; ++halving) {
             const double middle = (before + after) / 2;
             (isFree(place(middle), beginning) == last.visible ? before : after) = middle;

@@ -33,7 +33,7 @@ public:
 
     /// Splits a line where it comes into sight and goes out of it.
     /// @param place gives the line's point, or one in front of it, at a parameter.
-    /// @param steps number of places to look at; what changes twice in between goes unnoticed.
+    /// @param steps number of places to look at besides the ends; what changes twice in between goes unseen.
     std::vector<Piece> split(double from, double to, const std::function<gp_Pnt(double)>& place, int steps,
                              double beginning = 1e-3);
 

@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr int MostRings = 16;
-constexpr int Steps = 36;                  ///< Places to look at on each line.
+constexpr int Steps = 36;                  ///< Places to look at on each line and whole circle.
 constexpr double QuarterLeftOut = Pi / 12; ///< Where the circle of a thread's end begins, in radians.
 
 /// What draws the threads of one view.
@@ -46,7 +46,8 @@ struct ThreadLines {
     void addCircle(const gp_Circ& circle, double from, double to) const
     {
         const auto place = [&](double at) { return ElCLib::Value(at, circle); };
-        for (const Sight::Piece& piece : sight.split(from, to, place, Steps))
+        const int steps = static_cast<int>(std::lround(Steps * (to - from) / (2 * Pi)));
+        for (const Sight::Piece& piece : sight.split(from, to, place, steps))
             if (piece.visible || !camera.pictorial)
                 lineWork.addCircle(piece.visible ? dwg::LineKind::Thread : dwg::LineKind::Hidden, circle,
                                    piece.from, piece.to);
@@ -79,8 +80,12 @@ struct ThreadLines {
     {
         const double threaded = thread.length - (thread.radius - thread.coreRadius);
         const int count = std::min(MostRings, static_cast<int>(threaded / thread.pitch));
-        for (int i = 0; i < count; ++i)
-            addCircle(gp_Circ(raised(thread.frame, i * threaded / count), thread.radius), 0, 2 * Pi);
+        for (int i = 0; i < count; ++i) {
+            const gp_Circ ring(raised(thread.frame, i * threaded / count), thread.radius);
+            // The shank itself hides the half that is turned away.
+            const double front = ElCLib::Parameter(ring, ring.Location().Translated(camera.toward));
+            addCircle(ring, front - Pi / 2, front + Pi / 2);
+        }
     }
 };
 

@@ -1,4 +1,4 @@
-#include "dev/catalog/drawings/families/Dimensions.h"
+#include "dev/catalog/parts/Dimensions.h"
 
 #include <QByteArray>
 
