@@ -3,11 +3,13 @@
 #include "dev/catalog/CatalogSite.h"
 #include "dev/catalog/CertificateAuthority.h"
 #include "dev/catalog/CertificateFolder.h"
+#include "dev/catalog/PicturePreparation.h"
 #include "dev/catalog/ServiceHost.h"
 #include "dev/catalog/https/HttpsListener.h"
 #include "dev/catalog/soap/SoapService.h"
 #include "dev/catalog/soap/XmlText.h"
 
+#include <atomic>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -51,13 +53,18 @@ public:
     void serve(CatalogServer& server)
     {
         m_listener->serve([this, &server](const HttpRequest& request) {
+            ++m_requests;
             SoapReply reply = answer(request);
+            --m_requests;
             server.record({request.method.toStdString(), request.path().toStdString(), reply.operation,
                            reply.http.status, reply.fault});
             if (server.m_options.beforeReply)
                 server.m_options.beforeReply(request, reply.http);
             return reply.http;
         });
+        if (server.m_options.preparesPictures)
+            m_preparation.emplace(m_catalog, m_requests,
+                                  [this](const Part& part) { m_site.get('/' + m_site.thumbnailPath(part)); });
     }
 
     int port() const { return m_listener->port(); }
@@ -76,6 +83,8 @@ private:
 
     PartCatalog m_catalog;
     CatalogSite m_site;
+    std::atomic<int> m_requests = 0; ///< being answered
+    std::optional<PicturePreparation> m_preparation;
     CertificateAuthority m_authority;
     std::optional<ServiceHost> m_host;
     std::optional<SoapService> m_soap;

@@ -31,6 +31,10 @@ struct CatalogServerOptions {
     /// Where the certificate authority is kept; created where needed. Empty: defaultCertificateFolder().
     std::filesystem::path certificateFolder;
 
+    /// Whether the parts' pictures are made from the start on, not only when they are asked for. It keeps a
+    /// processor busy for half a minute.
+    bool preparesPictures = false;
+
     /// Takes a line for each request; it never holds a password, session id, key or token. Called from the
     /// server's threads, one at a time. May be empty.
     std::function<void(const std::string& line)> log;

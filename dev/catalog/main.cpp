@@ -33,6 +33,7 @@ int parsePort(const std::string& text)
 devcatalog::CatalogServerOptions parseArguments(const std::vector<std::string>& arguments)
 {
     devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
+    options.preparesPictures = true;
     for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
         const bool hasValue = argument + 1 != arguments.end();
         if (*argument == "--port" && hasValue)

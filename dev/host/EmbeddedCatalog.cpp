@@ -51,6 +51,7 @@ bool EmbeddedCatalog::start(const CatalogFaults& faults)
 {
     try {
         devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
+        options.preparesPictures = true;
         options.beforeReply = [faults](const devcatalog::HttpRequest&, devcatalog::HttpReply& reply) {
             inject(faults, reply);
         };

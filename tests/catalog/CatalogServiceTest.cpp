@@ -1,6 +1,7 @@
 #include "dev/catalog/CatalogSite.h"
 #include "dev/catalog/CertificateAuthority.h"
 #include "dev/catalog/FileCache.h"
+#include "dev/catalog/PicturePreparation.h"
 #include "dev/catalog/drawings/PartDrawing.h"
 #include "dev/dwg/Writer.h"
 #include "tests/catalog/CatalogFixture.h"
@@ -15,9 +16,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <atomic>
 #include <future>
 #include <memory>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -66,6 +69,7 @@ private slots:
     void drawingsHaveSafeNames();
     void filesAreMadeOnceAndKept();
     void nobodyWaitsForAnother();
+    void picturesAreMadeBeforehand();
     void pages();
     void theRequestLogTellsNoSecrets();
     void aTakenPortIsNamed();
@@ -221,6 +225,43 @@ void CatalogServiceTest::nobodyWaitsForAnother()
         QCOMPARE(reply->error(), QNetworkReply::NoError);
         QVERIFY(!QImage::fromData(reply->readAll()).isNull());
     }
+}
+
+void CatalogServiceTest::picturesAreMadeBeforehand()
+{
+    const devcatalog::PartCatalog catalog;
+    std::atomic<int> requests = 1;
+    std::mutex mutex;
+    std::vector<const devcatalog::Part*> made;
+    const auto count = [&] {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return made.size();
+    };
+    const auto make = [&](const devcatalog::Part& part) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        made.push_back(&part);
+        throw std::runtime_error("no picture");
+    };
+    {
+        const devcatalog::PicturePreparation waiting(catalog, requests, make);
+    }
+    QCOMPARE(count(), std::size_t(0));
+    requests = 0;
+    const devcatalog::PicturePreparation preparation(catalog, requests, make);
+    QTRY_COMPARE(count(), catalog.parts().size());
+    for (const char* term : {"bolt", "gear", "sensor"}) {
+        const std::vector<const devcatalog::Part*> found = catalog.search(term);
+        const auto last = std::find(made.begin(), made.end(), found[4]);
+        const auto next = std::find(made.begin(), made.end(), found[5]);
+        QVERIFY2(last < next - 50, term); // the first pages of all others lie between
+    }
+
+    CatalogServerOptions options = m_fixture->options();
+    options.preparesPictures = true;
+    CatalogServer server(options);
+    server.start(); // and it ends although hundreds are left to be made
+    const test::CatalogClient client(server.port(), QString::fromStdString(server.caFile().string()));
+    QCOMPARE(client.get("/Thumbnails/0.png").body, m_fixture->client().get("/Thumbnails/0.png").body);
 }
 
 void CatalogServiceTest::pages()
