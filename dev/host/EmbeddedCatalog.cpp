@@ -47,15 +47,16 @@ EmbeddedCatalog::EmbeddedCatalog() = default;
 
 EmbeddedCatalog::~EmbeddedCatalog() = default;
 
-bool EmbeddedCatalog::start(const CatalogFaults& faults)
+bool EmbeddedCatalog::start(const Options& options)
 {
     try {
-        devcatalog::CatalogServerOptions options = devcatalog::builtInOptions();
-        options.preparesPictures = true;
-        options.beforeReply = [faults](const devcatalog::HttpRequest&, devcatalog::HttpReply& reply) {
+        devcatalog::CatalogServerOptions service = devcatalog::builtInOptions();
+        service.preparesPictures = !options.tour;
+        service.beforeReply = [faults = options.catalogFaults](const devcatalog::HttpRequest&,
+                                                               devcatalog::HttpReply& reply) {
             inject(faults, reply);
         };
-        m_server = std::make_unique<devcatalog::CatalogServer>(std::move(options));
+        m_server = std::make_unique<devcatalog::CatalogServer>(std::move(service));
         m_server->start();
         return true;
     } catch (const std::exception& exception) {

@@ -24,8 +24,9 @@ public:
     EmbeddedCatalog(const EmbeddedCatalog&) = delete;
     EmbeddedCatalog& operator=(const EmbeddedCatalog&) = delete;
 
-    /// Starts the service. @return false when it cannot be: see errorString().
-    bool start(const CatalogFaults& faults);
+    /// Starts the service as the options ask for. A tour opens few parts at once, so it begins without the
+    /// pictures that would be made for a person. @return false when it cannot be: see errorString().
+    bool start(const Options& options);
     /// @return one line for a person to read.
     const QString& errorString() const { return m_errorString; }
 

@@ -96,7 +96,7 @@ int main(int argc, char* argv[])
 
     devhost::EmbeddedCatalog catalog;
     if (options.embeddedCatalog) {
-        if (!catalog.start(options.catalogFaults))
+        if (!catalog.start(options))
             return fail(catalog.errorString());
         trust(catalog.caFile());
     }
