@@ -19,19 +19,6 @@ namespace
 QMutex s_mutex;
 FatalWarnings* s_current = nullptr;
 
-/// What the offscreen plugin says about window systems it does not have, and what Qt says when the
-/// threads of two network managers register the same type of its own at the same moment.
-bool isHarmless(const QString& text)
-{
-    static const std::array<const char*, 3> lines{
-        "This plugin does not support propagateSizeHints()",
-        "This plugin does not support raise()",
-        "Type conversion already registered from type QSharedPointer<QNetworkSession> to type QObject*",
-    };
-    return std::any_of(lines.begin(), lines.end(),
-                       [&text](const char* line) { return text == QLatin1String(line); });
-}
-
 void fail(const QString& reason)
 {
     QTest::qFail(qPrintable(reason), __FILE__, __LINE__);
@@ -82,6 +69,19 @@ QStringList FatalWarnings::debugLines() const
 {
     const QMutexLocker lock(&s_mutex);
     return m_debugLines;
+}
+
+/// What the offscreen plugin says about window systems it does not have, and what Qt says when the
+/// threads of two network managers register the same type of its own at the same moment.
+bool FatalWarnings::isHarmless(const QString& text)
+{
+    static const std::array<const char*, 3> lines{
+        "This plugin does not support propagateSizeHints()",
+        "This plugin does not support raise()",
+        "Type conversion already registered from type QSharedPointer<QNetworkSession> to type QObject*",
+    };
+    return std::any_of(lines.begin(), lines.end(),
+                       [&text](const char* line) { return text == QLatin1String(line); });
 }
 
 /// Called under the lock.

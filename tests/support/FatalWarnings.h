@@ -29,6 +29,9 @@ public:
     void expect(QtMsgType type, const QString& text);
     void expect(QtMsgType type, const QRegularExpression& pattern);
 
+    /// Whether it is a known line of Qt's that tells of no fault.
+    static bool isHarmless(const QString& text);
+
     /// The debug lines since construction, oldest first, from all threads.
     QStringList debugLines() const;
 
