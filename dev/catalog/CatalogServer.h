@@ -32,7 +32,7 @@ struct CatalogServerOptions {
     std::filesystem::path certificateFolder;
 
     /// Whether the parts' pictures are made from the start on, not only when they are asked for. It keeps a
-    /// processor busy for half a minute.
+    /// processor busy for up to a minute.
     bool preparesPictures = false;
 
     /// Takes a line for each request; it never holds a password, session id, key or token. Called from the
