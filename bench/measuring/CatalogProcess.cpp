@@ -1,5 +1,6 @@
 #include "bench/measuring/CatalogProcess.h"
 
+#include "bench/measuring/ProcessFigures.h"
 #include "dev/catalog/BuiltInOptions.h"
 #include "dev/catalog/proxy/ConnectProxy.h"
 
@@ -64,6 +65,8 @@ devcatalog::CatalogServerOptions serverOptions(const Order& order)
 /// Serves, tells where on stdout, and ends with stdin.
 void serve(const Order& order, int& argc, char** argv)
 {
+    // A real catalog runs on a machine of its own and takes no processor from the host.
+    yieldToOtherProcesses();
     QCoreApplication application(argc, argv);
     devcatalog::CatalogServer server(serverOptions(order));
     server.start();

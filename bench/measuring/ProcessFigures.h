@@ -17,4 +17,7 @@ ProcessFigures processFigures();
 /// @return the processor time of the calling thread so far, in nanoseconds; elsewhere the time of day.
 qint64 threadTime();
 
+/// Lets this process run only where no other one wants the processors; called before there are other threads.
+void yieldToOtherProcesses();
+
 } // namespace bench

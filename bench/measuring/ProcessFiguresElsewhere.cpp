@@ -15,4 +15,8 @@ qint64 threadTime()
     return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+void yieldToOtherProcesses()
+{
+}
+
 } // namespace bench

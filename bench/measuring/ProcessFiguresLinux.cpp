@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <iterator>
 #include <malloc.h>
+#include <sys/resource.h>
 
 namespace bench
 {
@@ -40,6 +41,11 @@ qint64 threadTime()
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+void yieldToOtherProcesses()
+{
+    setpriority(PRIO_PROCESS, 0, PRIO_MAX); // what is refused leaves the process as it is
 }
 
 } // namespace bench
